@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+namespace sw {
+
+// Facts about the running program.
+struct AppInfo {
+    // The folder of the program file, without a closing separator.
+    std::string Path;
+    // The program's title, as windows and boxes show it.
+    std::string Title = "Slicewright";
+    // The program file's name without extension.
+    std::string ExeName = "slicewright";
+};
+
+} // namespace sw

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "imaging/Picture.h"
+
+#include <string>
+
+namespace sw {
+
+struct LoadedPicture {
+    Picture picture;
+    // Empty on success; otherwise why the file could not be read.
+    std::string error;
+    bool ok() const { return error.empty(); }
+};
+
+// Decodes BMP, JPG and GIF files into pictures.
+class PictureLoader {
+public:
+    virtual ~PictureLoader() = default;
+    virtual LoadedPicture LoadPicture(const std::string& path) = 0;
+};
+
+} // namespace sw

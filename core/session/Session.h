@@ -1,0 +1,19 @@
+#pragma once
+
+#include "export/ClipContainer.h"
+#include "ports/Ports.h"
+#include "session/SessionState.h"
+
+namespace sw {
+
+// The one session of the process: its state, the clean copy of the picture
+// from which sections are cut, and the ports to the outside.
+struct Session {
+    explicit Session(Ports& outside) : ports(outside) {}
+
+    SessionState state;
+    ClipContainer clipContainer;
+    Ports& ports;
+};
+
+} // namespace sw

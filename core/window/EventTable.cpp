@@ -1,0 +1,65 @@
+#include "window/EventTable.h"
+
+#include "window/CommandHandlers.h"
+#include "window/Toolbar.h"
+
+#include <cstdlib>
+
+namespace sw {
+namespace {
+
+EventEntry simple(std::string name, void (*handler)(Session&)) {
+    return {std::move(name), 0, [handler](Session& s, const EventArgs&) { handler(s); }};
+}
+
+float number(const std::string& text) { return std::strtof(text.c_str(), nullptr); }
+
+std::vector<EventEntry> buildTable() {
+    std::vector<EventEntry> table = {
+        simple("Form_Load", Form_Load),
+        simple("Form_Unload", Form_Unload),
+        simple("mnuExit_Click", mnuExit_Click),
+        simple("mnuOPen_Click", mnuOPen_Click),
+        simple("mnuLastCut_Click", mnuLastCut_Click),
+        simple("mnuCreate_Click", mnuCreate_Click),
+        simple("picActual_Click", picActual_Click),
+        simple("mnuUndo_Click", mnuUndo_Click),
+        simple("mnuClear_Click", mnuClear_Click),
+        simple("mnuDivideH_Click", mnuDivideH_Click),
+        simple("mnuDivideV_Click", mnuDivideV_Click),
+        simple("mnuHorizontalLine_Click", mnuHorizontalLine_Click),
+        simple("mnuVerticalLine_Click", mnuVerticalLine_Click),
+        simple("mnuBlack_Click", mnuBlack_Click),
+        simple("mnuRed_Click", mnuRed_Click),
+        simple("mnuGreen_Click", mnuGreen_Click),
+        simple("mnuYellow_Click", mnuYellow_Click),
+        simple("mnuBlue_Click", mnuBlue_Click),
+        simple("mnuWhite_Click", mnuWhite_Click),
+        simple("Form_MouseMove", Form_MouseMove),
+    };
+    table.push_back({"picActual_MouseMove", 2, [](Session& s, const EventArgs& a) {
+                         picActual_MouseMove(s, number(a[0]), number(a[1]));
+                     }});
+    table.push_back({"tlbrMain_ButtonClick", 1, [](Session& s, const EventArgs& a) {
+                         tlbrMain_ButtonClick(s, std::atoi(a[0].c_str()));
+                     }});
+    return table;
+}
+
+} // namespace
+
+const std::vector<EventEntry>& MainFormEvents() {
+    static const std::vector<EventEntry> table = buildTable();
+    return table;
+}
+
+const EventEntry* FindEvent(std::string_view name) {
+    for (const EventEntry& entry : MainFormEvents()) {
+        if (entry.name == name) {
+            return &entry;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace sw

@@ -1,0 +1,140 @@
+#include "tools/scenario/ScenarioRunner.h"
+
+#include "session/SessionStateDump.h"
+#include "tools/scenario/ScriptTokens.h"
+#include "window/EventTable.h"
+#include "window/FormLifecycle.h"
+
+#include <cstdlib>
+#include <sstream>
+
+namespace sw::scripted {
+namespace {
+
+void expectWords(const ScenarioRunner::Words& words, std::size_t count, const char* usage) {
+    if (words.size() != count) {
+        throw ScriptError(std::string("usage: ") + usage);
+    }
+}
+
+int wholeNumber(const std::string& text) {
+    char* end = nullptr;
+    const long value = std::strtol(text.c_str(), &end, 10);
+    if (text.empty() || *end != '\0') {
+        throw ScriptError("not a whole number: \"" + text + "\"");
+    }
+    return static_cast<int>(value);
+}
+
+void raiseEvent(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
+    if (w.size() < 2) {
+        throw ScriptError("usage: event NAME ARGS...");
+    }
+    const EventEntry* event = FindEvent(w[1]);
+    if (event == nullptr) {
+        throw ScriptError("no event handler named " + w[1]);
+    }
+    const EventArgs args(w.begin() + 2, w.end());
+    if (args.size() != event->argCount) {
+        throw ScriptError(w[1] + " takes " + std::to_string(event->argCount) + " argument(s)");
+    }
+    std::string shown = "event " + w[1];
+    for (const std::string& arg : args) {
+        shown += " " + arg;
+    }
+    runner.Print(shown);
+    event->raise(runner.CurrentSession(), args);
+}
+
+void dump(ScenarioRunner& runner, const ScenarioRunner::Words&) {
+    std::istringstream fields(DumpSessionState(runner.CurrentSession().state));
+    for (std::string line; std::getline(fields, line);) {
+        runner.Print("  " + line);
+    }
+}
+
+} // namespace
+
+ScenarioRunner::ScenarioRunner(std::ostream& transcript, PictureLoader* realLoader)
+    : ports_(transcript, realLoader), session_(ports_.ports) {
+    ports_.form.onUnload = [this] { Form_Unload(session_); };
+    addBuiltInCommands();
+}
+
+void ScenarioRunner::addBuiltInCommands() {
+    AddCommand("store", [](ScenarioRunner& r, const Words& w) {
+        expectWords(w, 3, "store KEY \"value\"");
+        r.Ports().settings.Preset(w[1], w[2]);
+    });
+    AddCommand("answer", [](ScenarioRunner& r, const Words& w) {
+        if (w.size() < 3) {
+            throw ScriptError("usage: answer KIND VALUE...");
+        }
+        r.Ports().answers.Add(w[1], Words(w.begin() + 2, w.end()));
+    });
+    AddCommand("picture", [](ScenarioRunner& r, const Words& w) {
+        expectWords(w, 4, "picture \"name\" WIDTH HEIGHT");
+        r.Ports().loader.Declare(w[1], Picture::Filled(wholeNumber(w[2]), wholeNumber(w[3]),
+                                                       0x00C0C0C0));
+    });
+    AddCommand("forget", [](ScenarioRunner& r, const Words& w) {
+        expectWords(w, 2, "forget \"name\"");
+        r.Ports().loader.Forget(w[1]);
+    });
+    AddCommand("fail", [](ScenarioRunner& r, const Words& w) {
+        expectWords(w, 2, "fail stroke");
+        if (w[1] != "stroke") {
+            throw ScriptError("only a stroke can be made to fail");
+        }
+        r.Ports().picActual.FailNextStroke();
+    });
+    AddCommand("windowstate", [](ScenarioRunner& r, const Words& w) {
+        expectWords(w, 2, "windowstate 0|1|2");
+        r.Ports().form.SetWindowState(wholeNumber(w[1]));
+    });
+    AddCommand("screen", [](ScenarioRunner& r, const Words& w) {
+        expectWords(w, 3, "screen WIDTH HEIGHT");
+        r.Ports().form.SetScreen(static_cast<float>(wholeNumber(w[1])),
+                                 static_cast<float>(wholeNumber(w[2])));
+    });
+    AddCommand("apppath", [](ScenarioRunner& r, const Words& w) {
+        expectWords(w, 2, "apppath \"folder\"");
+        r.Ports().ports.app.Path = w[1];
+    });
+    AddCommand("start", [](ScenarioRunner& r, const Words& w) {
+        expectWords(w, 1, "start");
+        r.Print("event Form_Load");
+        Form_Load(r.CurrentSession());
+    });
+    AddCommand("event", raiseEvent);
+    AddCommand("dump", dump);
+}
+
+void ScenarioRunner::RunLine(const std::string& line) {
+    const Words words = SplitScriptLine(line);
+    if (words.empty()) {
+        return;
+    }
+    const auto command = commands_.find(words[0]);
+    if (command == commands_.end()) {
+        throw ScriptError("unknown command \"" + words[0] + "\"");
+    }
+    command->second(*this, words);
+}
+
+void ScenarioRunner::Run(std::istream& script) {
+    int number = 0;
+    for (std::string line; std::getline(script, line);) {
+        ++number;
+        try {
+            RunLine(line);
+        } catch (const ScriptError& error) {
+            throw ScriptError("line " + std::to_string(number) + ": " + error.what());
+        }
+    }
+    Finish();
+}
+
+void ScenarioRunner::Finish() { ports_.answers.CheckAllUsed(); }
+
+} // namespace sw::scripted

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "imaging/Picture.h"
+#include "ports/PictureBox.h"
+#include "tools/scenario/Transcript.h"
+
+namespace sw::scripted {
+
+// picActual without a screen: it keeps the picture's size and logs strokes.
+class ScriptedPictureBox : public PictureBox {
+public:
+    explicit ScriptedPictureBox(Transcript& transcript) : transcript_(transcript) {}
+
+    void SetPicture(const Picture& picture) override;
+    bool Line(int x1, int y1, int x2, int y2, Color color) override;
+    float Width() const override { return width_; }
+    float Height() const override { return height_; }
+    float Left() const override { return 120; }
+    float Top() const override { return 720; }
+
+    // The next stroke reports that its image cannot be made (script: "fail stroke").
+    void FailNextStroke() { failNextStroke_ = true; }
+
+private:
+    Transcript& transcript_;
+    // The stored layout's size until a picture sizes the box.
+    float width_ = 3135;
+    float height_ = 4455;
+    bool failNextStroke_ = false;
+};
+
+} // namespace sw::scripted

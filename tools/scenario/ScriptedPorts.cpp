@@ -1,0 +1,10 @@
+#include "tools/scenario/ScriptedPorts.h"
+
+namespace sw::scripted {
+
+ScriptedPorts::ScriptedPorts(std::ostream& out, PictureLoader* realLoader)
+    : transcript(out), loader(transcript, realLoader),
+      ports{boxes, dlgPic, picActual, loader, controls, form, settings, files,
+            AppInfo{kScriptedAppPath, "Slicewright", "slicewright"}} {}
+
+} // namespace sw::scripted

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "ports/Ports.h"
+#include "tools/scenario/Answers.h"
+#include "tools/scenario/ScriptedBoxes.h"
+#include "tools/scenario/ScriptedControls.h"
+#include "tools/scenario/ScriptedFileDialog.h"
+#include "tools/scenario/ScriptedFileSystem.h"
+#include "tools/scenario/ScriptedForm.h"
+#include "tools/scenario/ScriptedPictureBox.h"
+#include "tools/scenario/ScriptedPictureLoader.h"
+#include "tools/scenario/ScriptedSettingsStore.h"
+
+namespace sw::scripted {
+
+inline constexpr const char* kScriptedAppPath = "/opt/slicewright";
+
+// One scripted implementation of every port, writing to one transcript and
+// answering from one set of answers.
+class ScriptedPorts {
+public:
+    ScriptedPorts(std::ostream& out, PictureLoader* realLoader);
+
+    Transcript transcript;
+    Answers answers;
+    ScriptedBoxes boxes{transcript, answers};
+    ScriptedFileDialog dlgPic{transcript, answers};
+    ScriptedPictureBox picActual{transcript};
+    ScriptedPictureLoader loader;
+    ScriptedControls controls{transcript};
+    ScriptedForm form{transcript};
+    ScriptedSettingsStore settings{transcript};
+    ScriptedFileSystem files{transcript};
+    Ports ports;
+};
+
+} // namespace sw::scripted
