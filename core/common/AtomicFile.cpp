@@ -1,0 +1,134 @@
+#include "common/AtomicFile.h"
+
+#include "common/FileWriteError.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <fstream>
+#include <sstream>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace sw {
+namespace {
+
+std::string folderOf(const std::string& path) {
+    const std::size_t slash = path.rfind('/');
+    if (slash == std::string::npos) {
+        return ".";
+    }
+    return slash == 0 ? "/" : path.substr(0, slash);
+}
+
+std::string nameOf(const std::string& path) {
+    const std::size_t slash = path.rfind('/');
+    return slash == std::string::npos ? path : path.substr(slash + 1);
+}
+
+// A new file takes the permissions a new file would get; a replaced file keeps its own.
+void matchPermissions(int fd, const std::string& target) {
+    struct stat old {};
+    if (::stat(target.c_str(), &old) == 0) {
+        ::fchmod(fd, old.st_mode & 07777);
+        return;
+    }
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    ::fchmod(fd, 0666 & ~mask);
+}
+
+} // namespace
+
+std::string SystemErrorText(int error) {
+    switch (error) {
+    case ENOSPC:
+        return "the disk is full";
+    case EACCES:
+    case EPERM:
+        return "permission denied";
+    case EROFS:
+        return "the folder is on a read-only file system";
+    case ENOENT:
+        return "the folder does not exist";
+    case ENOTDIR:
+        return "a part of the path is not a folder";
+    case EISDIR:
+        return "a folder of that name is in the way";
+    case EDQUOT:
+        return "the disk quota is used up";
+    case EFBIG:
+        return "the file would be too large";
+    default:
+        return std::strerror(error);
+    }
+}
+
+AtomicFile::AtomicFile(std::string path) : path_(std::move(path)) {
+    std::string pattern = folderOf(path_) + "/." + nameOf(path_) + ".XXXXXX";
+    fd_ = ::mkstemp(pattern.data());
+    if (fd_ < 0) {
+        fail(SystemErrorText(errno));
+    }
+    temporary_ = pattern;
+    matchPermissions(fd_, path_);
+}
+
+AtomicFile::~AtomicFile() {
+    if (fd_ >= 0) {
+        ::close(fd_);
+    }
+    if (!committed_ && !temporary_.empty()) {
+        ::unlink(temporary_.c_str());
+    }
+}
+
+void AtomicFile::fail(const std::string& reason) { throw FileWriteError(path_, reason); }
+
+void AtomicFile::Write(const void* data, std::size_t size) {
+    const char* bytes = static_cast<const char*>(data);
+    while (size > 0) {
+        const ssize_t written = ::write(fd_, bytes, size);
+        if (written < 0) {
+            if (errno == EINTR) {
+                continue;
+            }
+            fail(SystemErrorText(errno));
+        }
+        bytes += written;
+        size -= static_cast<std::size_t>(written);
+    }
+}
+
+void AtomicFile::Commit() {
+    if (::fsync(fd_) != 0 && errno != EINVAL) {
+        fail(SystemErrorText(errno));
+    }
+    const int closed = ::close(fd_);
+    fd_ = -1;
+    if (closed != 0) {
+        fail(SystemErrorText(errno));
+    }
+    if (::rename(temporary_.c_str(), path_.c_str()) != 0) {
+        fail(SystemErrorText(errno));
+    }
+    committed_ = true;
+}
+
+bool ReadWholeFile(const std::string& path, std::string& contents, std::string& reason) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) {
+        reason = SystemErrorText(errno);
+        return false;
+    }
+    std::ostringstream buffer;
+    buffer << in.rdbuf();
+    if (in.bad()) {
+        reason = "the file could not be read";
+        return false;
+    }
+    contents = buffer.str();
+    return true;
+}
+
+} // namespace sw
