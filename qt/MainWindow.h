@@ -1,0 +1,60 @@
+#pragma once
+
+#include "ports/Ports.h"
+#include "qt/PictureCanvas.h"
+#include "qt/QtControls.h"
+#include "qt/QtFileDialog.h"
+#include "qt/QtFileSystem.h"
+#include "qt/QtFormWindow.h"
+#include "qt/QtMessageBoxes.h"
+#include "qt/QtSettingsStore.h"
+#include "session/Session.h"
+#include "window/MenuTree.h"
+
+#include <QMainWindow>
+
+class QLabel;
+class QMenu;
+class QScrollArea;
+class QToolBar;
+
+namespace sw::qt {
+
+// frmSlicewright: the main window. It holds no logic: it turns Qt events into
+// the handlers of the core and carries out what they ask through the ports.
+class MainWindow : public QMainWindow {
+public:
+    MainWindow(PictureLoader& loader, const std::string& appPath);
+
+    Session& CurrentSession() { return session_; }
+    PictureCanvas& Picture() { return *picActual_; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void setupPictureArea();
+    void setupMenus();
+    void setupToolbar();
+    void connectPicture();
+    QAction* addMenuEntry(QMenu* menu, const MenuEntry& entry);
+    QAction* addMenuBarCommand(const MenuEntry& entry);
+    void run(void (*handler)(Session&));
+
+    PictureCanvas* picActual_;
+    QtMessageBoxes boxes_{this};
+    QtFileDialog dlgPic_{this};
+    QtControls controls_{this};
+    QtFormWindow form_{this};
+    QtSettingsStore settings_;
+    QtFileSystem files_;
+    Ports ports_;
+    Session session_{ports_};
+    QScrollArea* scroll_ = nullptr;
+    QWidget* area_ = nullptr;
+    QLabel* lblMousePos_ = nullptr;
+    QToolBar* tlbrMain_ = nullptr;
+};
+
+} // namespace sw::qt
