@@ -9,8 +9,9 @@ namespace sw {
 namespace {
 
 Direction drawMode(Session& session) {
-    return session.ports.controls.Checked(Item::mnuVerticalLine) ? Direction::Vertical
-                                                                 : Direction::Horizontal;
+    // Exactly one of the two check marks is set.
+    return session.ports.controls.Checked(Item::mnuHorizontalLine) ? Direction::Horizontal
+                                                                   : Direction::Vertical;
 }
 
 void takeLastLine(SessionState& s, Direction direction) {

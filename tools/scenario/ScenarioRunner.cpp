@@ -82,11 +82,11 @@ void ScenarioRunner::addBuiltInCommands() {
         r.Ports().loader.Forget(w[1]);
     });
     AddCommand("fail", [](ScenarioRunner& r, const Words& w) {
-        expectWords(w, 2, "fail stroke");
+        expectWords(w, 3, "fail stroke N");
         if (w[1] != "stroke") {
             throw ScriptError("only a stroke can be made to fail");
         }
-        r.Ports().picActual.FailNextStroke();
+        r.Ports().picActual.FailStroke(wholeNumber(w[2]));
     });
     AddCommand("windowstate", [](ScenarioRunner& r, const Words& w) {
         expectWords(w, 2, "windowstate 0|1|2");

@@ -15,8 +15,7 @@ bool ScriptedPictureBox::Line(int x1, int y1, int x2, int y2, Color color) {
     char line[96];
     std::snprintf(line, sizeof line, "stroke %d,%d -> %d,%d color=0x%06X", x1, y1, x2, y2,
                   static_cast<unsigned>(color));
-    const bool ok = !failNextStroke_;
-    failNextStroke_ = false;
+    const bool ok = strokesUntilFailure_ <= 0 || --strokesUntilFailure_ > 0;
     transcript_.Line(std::string(line) + (ok ? "" : " -> failed"));
     return ok;
 }

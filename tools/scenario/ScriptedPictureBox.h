@@ -18,15 +18,16 @@ public:
     float Left() const override { return 120; }
     float Top() const override { return 720; }
 
-    // The next stroke reports that its image cannot be made (script: "fail stroke").
-    void FailNextStroke() { failNextStroke_ = true; }
+    // The n-th stroke from now reports that its image cannot be made
+    // (script: "fail stroke N").
+    void FailStroke(int n) { strokesUntilFailure_ = n; }
 
 private:
     Transcript& transcript_;
     // The stored layout's size until a picture sizes the box.
     float width_ = 3135;
     float height_ = 4455;
-    bool failNextStroke_ = false;
+    int strokesUntilFailure_ = 0;
 };
 
 } // namespace sw::scripted

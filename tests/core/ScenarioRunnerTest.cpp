@@ -1,0 +1,52 @@
+#include "tools/scenario/ScenarioRunner.h"
+
+#include <gtest/gtest.h>
+#include <sstream>
+
+namespace sw::scripted {
+namespace {
+
+std::string run(const std::string& script) {
+    std::ostringstream transcript;
+    ScenarioRunner runner(transcript, nullptr);
+    std::istringstream in(script);
+    runner.Run(in);
+    return transcript.str();
+}
+
+TEST(ScenarioRunner, StopsWhenTheLogicAsksForAnAnswerTheScriptLacks) {
+    const std::string script = "picture \"/p.bmp\" 10 10\nstart\nanswer open \"/p.bmp\"\n"
+                               "event mnuOPen_Click\nevent mnuClear_Click\n";
+    try {
+        run(script);
+        FAIL() << "the missing answer went unnoticed";
+    } catch (const ScriptError& error) {
+        EXPECT_NE(std::string(error.what()).find("line 5"), std::string::npos) << error.what();
+        EXPECT_NE(std::string(error.what()).find("Clear Verification"), std::string::npos);
+    }
+}
+
+TEST(ScenarioRunner, StopsWhenAnswersAreLeftUnused) {
+    EXPECT_THROW(run("start\nanswer box Yes\n"), ScriptError);
+}
+
+TEST(ScenarioRunner, RefusesUnknownCommandsEventsAndWrongArgumentCounts) {
+    EXPECT_THROW(run("jump\n"), ScriptError);
+    EXPECT_THROW(run("event mnuNothing_Click\n"), ScriptError);
+    EXPECT_THROW(run("event picActual_MouseMove 1\n"), ScriptError);
+    EXPECT_THROW(run("answer box \"Yes\n"), ScriptError);
+}
+
+TEST(ScenarioRunner, RefusesAnAnswerTheBoxDoesNotOffer) {
+    const std::string script = "picture \"/p.bmp\" 10 10\nstart\nanswer open \"/p.bmp\"\n"
+                               "event mnuOPen_Click\nanswer box OK\nevent mnuClear_Click\n";
+    EXPECT_THROW(run(script), ScriptError);
+}
+
+TEST(ScenarioRunner, QuotesAndEscapesStringsInTheTranscript) {
+    const std::string out = run("store LastPicture \"a \\\"b\\\"\\\\c\"\nstart\n");
+    EXPECT_NE(out.find(R"(-> "a \"b\"\\c")"), std::string::npos) << out;
+}
+
+} // namespace
+} // namespace sw::scripted
