@@ -1,0 +1,20 @@
+// Slicewright: divides a picture into a grid of sections.
+#include "qt/MainWindow.h"
+#include "qt/image/QtPictureLoader.h"
+
+#include <QApplication>
+#include <QScreen>
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("Slicewright");
+    QApplication::setApplicationVersion("2.5.0");
+
+    sw::QtPictureLoader loader;
+    sw::qt::MainWindow window(loader, QCoreApplication::applicationDirPath().toStdString());
+    // Placed at the centre of the screen when first shown.
+    const QRect screen = window.screen()->availableGeometry();
+    window.move(screen.center() - window.rect().center());
+    window.show();
+    return QApplication::exec();
+}
