@@ -83,7 +83,9 @@ AtomicFile::~AtomicFile() {
     }
 }
 
-void AtomicFile::fail(const std::string& reason) { throw FileWriteError(path_, reason); }
+void AtomicFile::fail(const std::string& reason) {
+    throw FileWriteError(path_, reason);
+}
 
 void AtomicFile::Write(const void* data, std::size_t size) {
     const char* bytes = static_cast<const char*>(data);

@@ -9,8 +9,12 @@
 namespace sw {
 namespace {
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-bool isBlank(char c) { return c == ' ' || c == '\t'; }
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+bool isBlank(char c) {
+    return c == ' ' || c == '\t';
+}
 
 std::string_view trimBlanks(std::string_view text) {
     while (!text.empty() && isBlank(text.front())) {
@@ -91,8 +95,12 @@ double RoundHalfEven(double value) {
     return std::fmod(down, 2.0) == 0.0 ? down : down + 1.0;
 }
 
-std::optional<i16> RoundToI16(double value) { return roundTo<i16>(value); }
-std::optional<i32> RoundToI32(double value) { return roundTo<i32>(value); }
+std::optional<i16> RoundToI16(double value) {
+    return roundTo<i16>(value);
+}
+std::optional<i32> RoundToI32(double value) {
+    return roundTo<i32>(value);
+}
 
 std::optional<i16> CheckedAdd(i16 a, int b) {
     const int sum = a + b;
@@ -116,8 +124,12 @@ bool IsNumericText(std::string_view text) {
     return pos == text.size();
 }
 
-Converted<i16> TextToInteger(std::string_view text) { return convertText<i16>(text); }
-Converted<i32> TextToLong(std::string_view text) { return convertText<i32>(text); }
+Converted<i16> TextToInteger(std::string_view text) {
+    return convertText<i16>(text);
+}
+Converted<i32> TextToLong(std::string_view text) {
+    return convertText<i32>(text);
+}
 
 std::string FormatSingle(float value) {
     // Seven significant digits is what a single holds; %g drops trailing zeros.

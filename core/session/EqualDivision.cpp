@@ -24,7 +24,8 @@ DirectionTexts textsFor(Direction direction) {
                 "Number of Sections exceed the actual height of the picture!"};
     }
     return {"You have already divided the picture into vertical sections.",
-            "Divide Equal Vertically", "Number of Sections exceed the actual width of the picture!"};
+            "Divide Equal Vertically",
+            "Number of Sections exceed the actual width of the picture!"};
 }
 
 void refuse(Session& session, const std::string& title, const std::string& text) {
@@ -55,8 +56,8 @@ bool clearEarlierDivision(Session& session, const DirectionTexts& texts) {
 
 // Reads and validates the number of sections; nothing when refused or cancelled.
 std::optional<i16> askSections(Session& session, Direction direction, const DirectionTexts& texts) {
-    const std::string answer = session.ports.boxes.InputBox("Divide into how many sections?",
-                                                            texts.inputTitle, "2");
+    const std::string answer =
+        session.ports.boxes.InputBox("Divide into how many sections?", texts.inputTitle, "2");
     if (answer.empty()) {
         return std::nullopt;
     }

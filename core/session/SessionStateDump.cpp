@@ -8,7 +8,9 @@
 namespace sw {
 namespace {
 
-const char* flag(bool value) { return value ? "True" : "False"; }
+const char* flag(bool value) {
+    return value ? "True" : "False";
+}
 
 template <typename T> std::string list(const OneBasedArray<T>& array) {
     std::ostringstream out;

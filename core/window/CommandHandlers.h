@@ -1,9 +1,9 @@
 #pragma once
 
 // Every command handler of the main form, for the toolbar and the event table.
+#include "export/ExportRun.h"
 #include "window/DrawModeCommands.h"
 #include "window/EditCommands.h"
 #include "window/FormLifecycle.h"
 #include "window/PictureOpening.h"
 #include "window/PointerFeedback.h"
-#include "export/ExportRun.h"

@@ -23,11 +23,23 @@ void ChooseLineColor(Session& session, Item item) {
     }
 }
 
-void mnuBlack_Click(Session& session) { ChooseLineColor(session, Item::mnuBlack); }
-void mnuRed_Click(Session& session) { ChooseLineColor(session, Item::mnuRed); }
-void mnuGreen_Click(Session& session) { ChooseLineColor(session, Item::mnuGreen); }
-void mnuYellow_Click(Session& session) { ChooseLineColor(session, Item::mnuYellow); }
-void mnuBlue_Click(Session& session) { ChooseLineColor(session, Item::mnuBlue); }
-void mnuWhite_Click(Session& session) { ChooseLineColor(session, Item::mnuWhite); }
+void mnuBlack_Click(Session& session) {
+    ChooseLineColor(session, Item::mnuBlack);
+}
+void mnuRed_Click(Session& session) {
+    ChooseLineColor(session, Item::mnuRed);
+}
+void mnuGreen_Click(Session& session) {
+    ChooseLineColor(session, Item::mnuGreen);
+}
+void mnuYellow_Click(Session& session) {
+    ChooseLineColor(session, Item::mnuYellow);
+}
+void mnuBlue_Click(Session& session) {
+    ChooseLineColor(session, Item::mnuBlue);
+}
+void mnuWhite_Click(Session& session) {
+    ChooseLineColor(session, Item::mnuWhite);
+}
 
 } // namespace sw

@@ -5,10 +5,20 @@
 
 namespace sw {
 
-void picActual_Click(Session& session) { RecordLine(session); }
-void mnuUndo_Click(Session& session) { UndoLastLine(session); }
-void mnuClear_Click(Session& session) { ClearLines(session); }
-void mnuDivideH_Click(Session& session) { DivideEqually(session, Direction::Horizontal); }
-void mnuDivideV_Click(Session& session) { DivideEqually(session, Direction::Vertical); }
+void picActual_Click(Session& session) {
+    RecordLine(session);
+}
+void mnuUndo_Click(Session& session) {
+    UndoLastLine(session);
+}
+void mnuClear_Click(Session& session) {
+    ClearLines(session);
+}
+void mnuDivideH_Click(Session& session) {
+    DivideEqually(session, Direction::Horizontal);
+}
+void mnuDivideV_Click(Session& session) {
+    DivideEqually(session, Direction::Vertical);
+}
 
 } // namespace sw

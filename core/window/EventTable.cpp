@@ -12,7 +12,9 @@ EventEntry simple(std::string name, void (*handler)(Session&)) {
     return {std::move(name), 0, [handler](Session& s, const EventArgs&) { handler(s); }};
 }
 
-float number(const std::string& text) { return std::strtof(text.c_str(), nullptr); }
+float number(const std::string& text) {
+    return std::strtof(text.c_str(), nullptr);
+}
 
 std::vector<EventEntry> buildTable() {
     std::vector<EventEntry> table = {

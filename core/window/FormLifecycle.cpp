@@ -9,7 +9,9 @@ namespace sw {
 namespace {
 
 // Window sizes arrive as floats in twips; the session keeps them in 16 bits.
-i16 twips(float value) { return RoundToI16(value).value_or(0); }
+i16 twips(float value) {
+    return RoundToI16(value).value_or(0);
+}
 
 void noteMargins(Session& session) {
     SessionState& s = session.state;
@@ -50,7 +52,9 @@ void Form_Load(Session& session) {
     s.linesDrawn = false;
 }
 
-void Form_Unload(Session& session) { SaveSettings(session); }
+void Form_Unload(Session& session) {
+    SaveSettings(session);
+}
 
 void mnuExit_Click(Session& session) {
     SaveSettings(session);

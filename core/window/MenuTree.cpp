@@ -14,7 +14,9 @@ MenuEntry command(Item item, const char* caption, Command handler, bool enabled 
     return {item, caption, 1, enabled, checked, handler};
 }
 
-MenuEntry separator(int depth = 1) { return {std::nullopt, "-", depth, true, false, nullptr}; }
+MenuEntry separator(int depth = 1) {
+    return {std::nullopt, "-", depth, true, false, nullptr};
+}
 
 std::vector<MenuEntry> buildTree() {
     std::vector<MenuEntry> tree = {

@@ -24,8 +24,8 @@ std::optional<Picture> decode(Session& session, const std::string& path) {
 }
 
 void enableCommands(Controls& controls) {
-    for (const Item item : {Item::mnuEdit, Item::mnuCreate, Item::mnuSaveLines,
-                            Item::mnuLoadLines, Item::mnuPicAbout}) {
+    for (const Item item : {Item::mnuEdit, Item::mnuCreate, Item::mnuSaveLines, Item::mnuLoadLines,
+                            Item::mnuPicAbout}) {
         controls.SetEnabled(item, true);
     }
 }

@@ -74,8 +74,8 @@ void ScenarioRunner::addBuiltInCommands() {
     });
     AddCommand("picture", [](ScenarioRunner& r, const Words& w) {
         expectWords(w, 4, "picture \"name\" WIDTH HEIGHT");
-        r.Ports().loader.Declare(w[1], Picture::Filled(wholeNumber(w[2]), wholeNumber(w[3]),
-                                                       0x00C0C0C0));
+        r.Ports().loader.Declare(w[1],
+                                 Picture::Filled(wholeNumber(w[2]), wholeNumber(w[3]), 0x00C0C0C0));
     });
     AddCommand("forget", [](ScenarioRunner& r, const Words& w) {
         expectWords(w, 2, "forget \"name\"");
@@ -135,6 +135,8 @@ void ScenarioRunner::Run(std::istream& script) {
     Finish();
 }
 
-void ScenarioRunner::Finish() { ports_.answers.CheckAllUsed(); }
+void ScenarioRunner::Finish() {
+    ports_.answers.CheckAllUsed();
+}
 
 } // namespace sw::scripted

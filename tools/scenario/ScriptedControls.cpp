@@ -4,7 +4,9 @@
 
 namespace sw::scripted {
 
-std::string FlagText(bool value) { return value ? "True" : "False"; }
+std::string FlagText(bool value) {
+    return value ? "True" : "False";
+}
 
 ScriptedControls::ScriptedControls(Transcript& transcript) : transcript_(transcript) {
     // The check marks of the stored layout.

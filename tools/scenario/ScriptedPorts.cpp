@@ -4,7 +4,8 @@ namespace sw::scripted {
 
 ScriptedPorts::ScriptedPorts(std::ostream& out, PictureLoader* realLoader)
     : transcript(out), loader(transcript, realLoader),
-      ports{boxes, dlgPic, picActual, loader, controls, form, settings, files,
-            AppInfo{kScriptedAppPath, "Slicewright", "slicewright"}} {}
+      ports{boxes,    dlgPic,   picActual,
+            loader,   controls, form,
+            settings, files,    AppInfo{kScriptedAppPath, "Slicewright", "slicewright"}} {}
 
 } // namespace sw::scripted

@@ -1,0 +1,149 @@
+// The window layer: the Qt implementations of the ports and the main form's
+// wiring, on a real (offscreen or Xvfb) platform.
+#include "imaging/Picture.h"
+#include "qt/MainWindow.h"
+#include "qt/QtSettingsStore.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMouseEvent>
+#include <QFile>
+#include <QMenuBar>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolBar>
+
+using namespace sw;
+
+namespace {
+
+// Pictures come from the test itself; no file is read.
+class FixedLoader : public PictureLoader {
+public:
+    LoadedPicture LoadPicture(const std::string&) override {
+        return {Picture::Filled(40, 30, 0x00FFFFFF), {}};
+    }
+};
+
+QAction* findAction(QWidget* window, const QString& text) {
+    for (QAction* action : window->findChildren<QAction*>()) {
+        if (action->text() == text) {
+            return action;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class MainWindowTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init() {
+        QVERIFY(config_.isValid());
+        qputenv("XDG_CONFIG_HOME", config_.path().toUtf8());
+    }
+
+    void commandsStartAsTheStoredLayoutHasThem() {
+        FixedLoader loader;
+        qt::MainWindow window(loader, "/opt/slicewright");
+        QVERIFY(!findAction(&window, "Edit")->isEnabled());
+        QVERIFY(!findAction(&window, "Create Sections")->isEnabled());
+        QVERIFY(!findAction(&window, "Undo Last")->isEnabled());
+        QVERIFY(findAction(&window, "Horizontal Line")->isChecked());
+        QVERIFY(findAction(&window, "Black")->isChecked());
+        QVERIFY(!findAction(&window, "Red")->isChecked());
+        QVERIFY(findAction(&window, "Open")->isEnabled());
+        QVERIFY(!window.findChild<QToolBar*>()->isVisibleTo(&window));
+        QCOMPARE(window.windowTitle(), QString("Slicewright"));
+    }
+
+    void exitWritesTheSixSettingsToTheUsersConfigFile() {
+        FixedLoader loader;
+        qt::MainWindow window(loader, "/opt/slicewright");
+        window.show();
+        findAction(&window, "Exit")->trigger();
+        QVERIFY(!window.isVisible());
+        QSettings stored(config_.filePath("Corvane-Studio.ini"), QSettings::IniFormat);
+        QCOMPARE(stored.value("Slicewright/LastOpenDir").toString(), QString("/opt/slicewright"));
+        QCOMPARE(stored.value("Slicewright/LastPicture").toString(), QString(" "));
+        QCOMPARE(stored.value("Slicewright/SaveFormat").toString(), QString("BMP"));
+        QCOMPARE(stored.value("Slicewright/HTMLOut").toString(), QString("N"));
+        QCOMPARE(stored.value("Slicewright/JPGComp").toString(), QString("90"));
+        QVERIFY(stored.contains("Slicewright/LastSaveDir"));
+    }
+
+    void aStoredLastPictureBecomesTheRememberedItem() {
+        qt::QtSettingsStore().SaveSetting("Corvane-Studio", "Slicewright", "LastPicture",
+                                          "/home/ann/gone.jpg");
+        FixedLoader loader;
+        qt::MainWindow window(loader, "/opt/slicewright");
+        QAction* lastCut = findAction(&window, "/home/ann/gone.jpg");
+        QVERIFY(lastCut != nullptr);
+        QVERIFY(lastCut->isVisible());
+    }
+
+    void settingsStoreAnswersTheDefaultForAMissingKey() {
+        qt::QtSettingsStore store;
+        QCOMPARE(store.GetSetting("Corvane-Studio", "Slicewright", "Nothing", "dflt"),
+                 std::string("dflt"));
+        store.SaveSetting("Corvane-Studio", "Slicewright", "Key", "a value, with \"quotes\"");
+        QCOMPARE(store.GetSetting("Corvane-Studio", "Slicewright", "Key", ""),
+                 std::string("a value, with \"quotes\""));
+    }
+
+    void strokesSpanThePictureAndStayInItsImage() {
+        FixedLoader loader;
+        qt::MainWindow window(loader, "/opt/slicewright");
+        qt::PictureCanvas& canvas = window.Picture();
+        canvas.SetPicture(Picture::Filled(40, 30, 0x00FFFFFF));
+        QCOMPARE(canvas.Width(), 600.0f);
+        QCOMPARE(canvas.Height(), 450.0f);
+        // The far end is the size in twips, far past the edge: clipped there.
+        QVERIFY(canvas.Line(0, 7, static_cast<int>(canvas.Width()), 7, 0x000000FF));
+        const QImage& image = canvas.Image();
+        QCOMPARE(image.pixelColor(0, 7), QColor(255, 0, 0));
+        QCOMPARE(image.pixelColor(39, 7), QColor(255, 0, 0));
+        QCOMPARE(image.pixelColor(39, 8), QColor(255, 255, 255));
+        QCOMPARE(image.pixelColor(39, 6), QColor(255, 255, 255));
+    }
+
+    void aDoubleClickRecordsOneLineAtThePointer() {
+        FixedLoader loader;
+        qt::MainWindow window(loader, "/opt/slicewright");
+        window.show();
+        Session& session = window.CurrentSession();
+        session.state.pictureOpen = true;
+        session.state.hLines.ResetToOneSlot();
+        session.state.vLines.ResetToOneSlot();
+        qt::PictureCanvas& canvas = window.Picture();
+        canvas.SetPicture(Picture::Filled(40, 30, 0x00FFFFFF));
+        canvas.show();
+        QMouseEvent move(QEvent::MouseMove, QPointF(5.7, 12.2), canvas.mapToGlobal(QPointF(5.7, 12.2)),
+                         Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(&canvas, &move);
+        QCOMPARE(session.state.mouseX, static_cast<i16>(5));
+        QCOMPARE(session.state.mouseY, static_cast<i16>(12));
+        // What the window system sends for a double click.
+        for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                                        QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+            const bool release = type == QEvent::MouseButtonRelease;
+            QMouseEvent event(type, QPointF(5, 12), canvas.mapToGlobal(QPointF(5, 12)),
+                              Qt::LeftButton, release ? Qt::NoButton : Qt::LeftButton,
+                              Qt::NoModifier);
+            QApplication::sendEvent(&canvas, &event);
+        }
+        QCOMPARE(session.state.hLineCount, static_cast<i16>(1));
+        QCOMPARE(session.state.hLines(1), static_cast<i16>(12));
+        QVERIFY(findAction(&window, "Undo Last")->isEnabled());
+    }
+
+private:
+    QTemporaryDir config_;
+};
+
+QTEST_MAIN(MainWindowTest)
+#include "MainWindowTest.moc"
