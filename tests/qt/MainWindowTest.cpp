@@ -1,14 +1,15 @@
 // The window layer: the Qt implementations of the ports and the main form's
 // wiring, on a real (offscreen or Xvfb) platform.
-#include "imaging/Picture.h"
 #include "qt/MainWindow.h"
+
+#include "imaging/Picture.h"
 #include "qt/QtSettingsStore.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QMouseEvent>
 #include <QFile>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -122,8 +123,9 @@ private slots:
         qt::PictureCanvas& canvas = window.Picture();
         canvas.SetPicture(Picture::Filled(40, 30, 0x00FFFFFF));
         canvas.show();
-        QMouseEvent move(QEvent::MouseMove, QPointF(5.7, 12.2), canvas.mapToGlobal(QPointF(5.7, 12.2)),
-                         Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QMouseEvent move(QEvent::MouseMove, QPointF(5.7, 12.2),
+                         canvas.mapToGlobal(QPointF(5.7, 12.2)), Qt::NoButton, Qt::NoButton,
+                         Qt::NoModifier);
         QApplication::sendEvent(&canvas, &move);
         QCOMPARE(session.state.mouseX, static_cast<i16>(5));
         QCOMPARE(session.state.mouseY, static_cast<i16>(12));
