@@ -7,3 +7,5 @@
 #include "window/PictureOpening.h"
 #include "window/PointerFeedback.h"
 #include "export/ExportRun.h"
+#include "dialogs/DialogCommands.h"
+#include "linefile/LineFile.h"

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+namespace sw {
+
+// A program of the desktop that shows facts about the machine.
+class SystemInfoProgram {
+public:
+    virtual ~SystemInfoProgram() = default;
+    // Where such a program is installed; the empty text when there is none.
+    virtual std::string Find() = 0;
+    // Starts a program file in a normal, focused window without waiting for
+    // it; false when it cannot be started.
+    virtual bool Start(const std::string& program) = 0;
+};
+
+} // namespace sw
