@@ -125,7 +125,8 @@ bool ReadWholeFile(const std::string& path, std::string& contents, std::string& 
     }
     std::ifstream in(path, std::ios::binary);
     if (!in) {
-        reason = SystemErrorText(errno);
+        // The causes are worded for writing; a missing file is not a missing folder.
+        reason = errno == ENOENT ? "there is no file of that name" : SystemErrorText(errno);
         return false;
     }
     std::ostringstream buffer;
