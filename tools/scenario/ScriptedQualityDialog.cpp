@@ -1,7 +1,7 @@
 #include "tools/scenario/ScriptedQualityDialog.h"
 
-#include "common/QuotedText.h"
 #include "dialogs/frmJPGComp.h"
+#include "tools/scenario/QuotedControls.h"
 
 namespace sw::scripted {
 
@@ -10,8 +10,8 @@ void ScriptedQualityDialog::typeKeys(frmJPGComp& form, const std::string& keys) 
     for (const char key : keys) {
         form.PressKey(static_cast<i16>(static_cast<unsigned char>(key)));
     }
-    transcript_.Line("jpgcomp type " + QuoteText(keys) +
-                     " -> text=" + QuoteText(form.txtJPGComp.Text));
+    transcript_.Line("jpgcomp type " + QuoteWithControls(keys) +
+                     " -> text=" + QuoteWithControls(form.txtJPGComp.Text));
 }
 
 void ScriptedQualityDialog::press(frmJPGComp& form, const std::string& button) {
@@ -29,7 +29,7 @@ void ScriptedQualityDialog::press(frmJPGComp& form, const std::string& button) {
 }
 
 void ScriptedQualityDialog::ShowJpgComp(frmJPGComp& form) {
-    const std::string shown = "jpgcomp show text=" + QuoteText(form.txtJPGComp.Text);
+    const std::string shown = "jpgcomp show text=" + QuoteWithControls(form.txtJPGComp.Text);
     transcript_.Line(shown);
     while (!form.Closed()) {
         const Answers::Tokens answer = answers_.TakeTokens("jpgcomp", shown);

@@ -1,6 +1,7 @@
 #include "tools/scenario/ScriptedRegistry.h"
 
 #include "common/QuotedText.h"
+#include "tools/scenario/QuotedControls.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -19,7 +20,17 @@ std::string rootName(RegistryRoot root) {
 
 std::string describe(const RegistryValue& value) {
     if (value.type == kRegistryText) {
-        return "sz " + QuoteText(value.bytes);
+        return "sz " + QuoteWithControls(value.bytes);
+    }
+    if (value.type == kRegistryDword && value.bytes.size() == 4) {
+        unsigned number = 0;
+        for (int i = 3; i >= 0; --i) {
+            number =
+                number << 8 | static_cast<unsigned char>(value.bytes[static_cast<std::size_t>(i)]);
+        }
+        char shown[24];
+        std::snprintf(shown, sizeof shown, "dword 0x%08X", number);
+        return shown;
     }
     return "type " + std::to_string(value.type) + " of " + std::to_string(value.bytes.size()) +
            " bytes";
