@@ -4,6 +4,12 @@
 
 namespace sw {
 
+// The desktop programs that show facts about the machine, in the order in
+// which a search on the PATH should try them.
+inline constexpr const char* kSystemInfoCandidates[] = {
+    "hardinfo", "gnome-system-monitor", "kinfocenter", "lshw-gtk", "mate-system-monitor",
+};
+
 // A program of the desktop that shows facts about the machine.
 class SystemInfoProgram {
 public:

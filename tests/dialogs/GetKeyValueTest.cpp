@@ -1,4 +1,3 @@
-#include "dialogs/DialogCommands.h"
 #include "dialogs/KeyValue.h"
 
 #include <gtest/gtest.h>
@@ -60,13 +59,6 @@ TEST(GetKeyValue, DecodesTextAndNumbersAndKeepsOtherTypes) {
     std::string keyVal = "old";
     EXPECT_FALSE(GetKeyValue(registry, kLocalMachine, "SOFTWARE\\Other", "marked", keyVal));
     EXPECT_EQ(keyVal, "");
-}
-
-TEST(PictureFactsText, GivesHeightThenWidthInPixels) {
-    EXPECT_EQ(PictureFactsText(9600, 7200),
-              "Picture Attributes: \r\nHeight: 480 (pixels)\r\nWidth : 640 (pixels)\r\n");
-    EXPECT_EQ(PictureFactsText(5748, 7),
-              "Picture Attributes: \r\nHeight: 0.4666667 (pixels)\r\nWidth : 383.2 (pixels)\r\n");
 }
 
 } // namespace
