@@ -66,21 +66,21 @@ void applyRecords(Session& session, const std::vector<LineRecord>& records) {
     }
 }
 
-void loadParsedFile(Session& session, const ParsedLineFile& parsed) {
-    switch (parsed.problem) {
-    case LineFileProblem::Corrupt:
+// Whether the file loads as it is; when it does not, the user has been told.
+bool loadable(Session& session, LineFileProblem problem) {
+    if (problem == LineFileProblem::Corrupt) {
         dropCorruptFile(session);
-        return;
-    case LineFileProblem::TooManyLines:
+    } else if (problem == LineFileProblem::TooManyLines) {
         tell(session, "Too Many Lines",
              "That Slicewright file holds more lines than a picture can: 32767 lines is the "
              "most.\r\nThe lines stay as they are.",
              BoxIcon::Exclamation);
-        return;
-    case LineFileProblem::None:
-        break;
     }
-    if (!ReloadPicture(session)) {
+    return problem == LineFileProblem::None;
+}
+
+void loadParsedFile(Session& session, const ParsedLineFile& parsed) {
+    if (!loadable(session, parsed.problem) || !ReloadPicture(session)) {
         return;
     }
     ResetLines(session);
