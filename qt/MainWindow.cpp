@@ -1,5 +1,6 @@
 #include "qt/MainWindow.h"
 
+#include "dialogs/DialogCommands.h"
 #include "qt/QtText.h"
 #include "window/DrawModeCommands.h"
 #include "window/EditCommands.h"
@@ -37,9 +38,12 @@ bool isCheckable(Item item) {
 
 MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath)
     : picActual_(new PictureCanvas(nullptr)),
-      ports_{boxes_,    dlgPic_,   *picActual_,
-             loader,    controls_, form_,
-             settings_, files_,    AppInfo{appPath, "Slicewright", "slicewright"}} {
+      ports_{boxes_,         dlgPic_,      *picActual_,
+             loader,         controls_,    form_,
+             settings_,      files_,       AppInfo{appPath, "Slicewright", "slicewright"},
+             jpgCompDialog_, aboutWindow_, shell_,
+             registry_,      sysInfo_} {
+    aboutWindow_.raise = [this](void (frmAbout::*event)()) { RaiseAboutEvent(session_, event); };
     setWindowTitle("Slicewright");
     setupPictureArea();
     setupMenus();

@@ -2,12 +2,17 @@
 
 #include "ports/Ports.h"
 #include "qt/PictureCanvas.h"
+#include "qt/QtAboutWindow.h"
 #include "qt/QtControls.h"
 #include "qt/QtFileDialog.h"
 #include "qt/QtFileSystem.h"
 #include "qt/QtFormWindow.h"
 #include "qt/QtMessageBoxes.h"
+#include "qt/QtQualityDialog.h"
+#include "qt/QtRegistry.h"
 #include "qt/QtSettingsStore.h"
+#include "qt/QtShell.h"
+#include "qt/QtSystemInfoProgram.h"
 #include "session/Session.h"
 #include "window/MenuTree.h"
 
@@ -49,6 +54,11 @@ private:
     QtFormWindow form_{this};
     QtSettingsStore settings_;
     QtFileSystem files_;
+    QtQualityDialog jpgCompDialog_{this};
+    QtAboutWindow aboutWindow_{this};
+    QtShell shell_;
+    QtRegistry registry_;
+    QtSystemInfoProgram sysInfo_;
     Ports ports_;
     Session session_{ports_};
     QScrollArea* scroll_ = nullptr;

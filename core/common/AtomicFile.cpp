@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <sys/stat.h>
@@ -118,9 +119,16 @@ void AtomicFile::Commit() {
 }
 
 bool ReadWholeFile(const std::string& path, std::string& contents, std::string& reason) {
+    // A folder opens like a file and reads as nothing at all.
+    std::error_code error;
+    if (std::filesystem::is_directory(path, error)) {
+        reason = "it is a folder, not a file";
+        return false;
+    }
     std::ifstream in(path, std::ios::binary);
     if (!in) {
-        reason = SystemErrorText(errno);
+        // The causes are worded for writing; a missing file is not a missing folder.
+        reason = errno == ENOENT ? "there is no file of that name" : SystemErrorText(errno);
         return false;
     }
     std::ostringstream buffer;

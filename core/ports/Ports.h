@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ports/AboutWindow.h"
 #include "ports/AppInfo.h"
 #include "ports/Controls.h"
 #include "ports/FileDialog.h"
@@ -8,7 +9,11 @@
 #include "ports/MessageBoxes.h"
 #include "ports/PictureBox.h"
 #include "ports/PictureLoader.h"
+#include "ports/QualityDialog.h"
+#include "ports/Registry.h"
 #include "ports/SettingsStore.h"
+#include "ports/Shell.h"
+#include "ports/SystemInfoProgram.h"
 
 namespace sw {
 
@@ -25,6 +30,12 @@ struct Ports {
     SettingsStore& settings;
     FileSystem& files;
     AppInfo app;
+    // The dialogs and what they reach beyond the program.
+    QualityDialog& jpgCompDialog;
+    AboutWindow& aboutWindow;
+    Shell& shell;
+    Registry& registry;
+    SystemInfoProgram& sysInfo;
 };
 
 } // namespace sw

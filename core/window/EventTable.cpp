@@ -1,5 +1,6 @@
 #include "window/EventTable.h"
 
+#include "dialogs/frmAbout.h"
 #include "window/CommandHandlers.h"
 #include "window/Toolbar.h"
 
@@ -10,6 +11,12 @@ namespace {
 
 EventEntry simple(std::string name, void (*handler)(Session&)) {
     return {std::move(name), 0, [handler](Session& s, const EventArgs&) { handler(s); }};
+}
+
+// An event of the about window, which reaches the form only while it is open.
+EventEntry aboutEvent(std::string name, void (frmAbout::*event)()) {
+    return {"frmAbout." + name, 0,
+            [event](Session& s, const EventArgs&) { RaiseAboutEvent(s, event); }};
 }
 
 float number(const std::string& text) {
@@ -38,6 +45,16 @@ std::vector<EventEntry> buildTable() {
         simple("mnuBlue_Click", mnuBlue_Click),
         simple("mnuWhite_Click", mnuWhite_Click),
         simple("Form_MouseMove", Form_MouseMove),
+        simple("mnuSaveLines_Click", mnuSaveLines_Click),
+        simple("mnuLoadLines_Click", mnuLoadLines_Click),
+        simple("mnuJPGComp_Click", mnuJPGComp_Click),
+        simple("mnuProgram_Click", mnuProgram_Click),
+        simple("mnuHelp_Click", mnuHelp_Click),
+        simple("mnuPicAbout_Click", mnuPicAbout_Click),
+        aboutEvent("cmdOK_Click", &frmAbout::cmdOK_Click),
+        aboutEvent("cmdSysInfo_Click", &frmAbout::cmdSysInfo_Click),
+        aboutEvent("imgLogo_Click", &frmAbout::imgLogo_Click),
+        aboutEvent("lblForums_Click", &frmAbout::lblForums_Click),
     };
     table.push_back({"picActual_MouseMove", 2, [](Session& s, const EventArgs& a) {
                          picActual_MouseMove(s, number(a[0]), number(a[1]));

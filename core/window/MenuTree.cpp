@@ -24,8 +24,8 @@ std::vector<MenuEntry> buildTree() {
         command(Item::mnuOPen, "Open", mnuOPen_Click),
         command(Item::mnuCreate, "Create Sections", mnuCreate_Click, false),
         separator(),
-        command(Item::mnuSaveLines, "Save Section Lines", nullptr, false),
-        command(Item::mnuLoadLines, "Load Section Lines", nullptr, false),
+        command(Item::mnuSaveLines, "Save Section Lines", mnuSaveLines_Click, false),
+        command(Item::mnuLoadLines, "Load Section Lines", mnuLoadLines_Click, false),
         separator(),
         command(Item::mnuLastCut, "", mnuLastCut_Click),
         separator(),
@@ -41,7 +41,7 @@ std::vector<MenuEntry> buildTree() {
         command(Item::mnuClear, "Clear Lines", mnuClear_Click),
         command(Item::mnuUndo, "Undo Last", mnuUndo_Click, false),
         separator(),
-        command(Item::mnuJPGComp, "Set JPG Compression", nullptr),
+        command(Item::mnuJPGComp, "Set JPG Compression", mnuJPGComp_Click),
         menu(Item::mnuLineColor, "Line Color", 0),
         command(Item::mnuBlack, "Black", mnuBlack_Click, true, true),
         command(Item::mnuRed, "Red", mnuRed_Click),
@@ -50,10 +50,10 @@ std::vector<MenuEntry> buildTree() {
         command(Item::mnuBlue, "Blue", mnuBlue_Click),
         command(Item::mnuWhite, "White", mnuWhite_Click),
         menu(Item::mnuAbout, "About", 0),
-        command(Item::mnuPicAbout, "This Picture", nullptr, false),
+        command(Item::mnuPicAbout, "This Picture", mnuPicAbout_Click, false),
         separator(),
-        command(Item::mnuProgram, "Program", nullptr),
-        {Item::mnuHelp, "Help", 0, true, false, nullptr},
+        command(Item::mnuProgram, "Program", mnuProgram_Click),
+        {Item::mnuHelp, "Help", 0, true, false, mnuHelp_Click},
     };
     return tree;
 }

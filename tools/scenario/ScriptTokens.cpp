@@ -13,6 +13,8 @@ char unescape(char c) {
         return '\n';
     case 't':
         return '\t';
+    case 'b':
+        return '\b';
     default:
         return c;
     }

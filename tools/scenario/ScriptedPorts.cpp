@@ -4,8 +4,10 @@ namespace sw::scripted {
 
 ScriptedPorts::ScriptedPorts(std::ostream& out, PictureLoader* realLoader)
     : transcript(out), loader(transcript, realLoader),
-      ports{boxes,    dlgPic,   picActual,
-            loader,   controls, form,
-            settings, files,    AppInfo{kScriptedAppPath, "Slicewright", "slicewright"}} {}
+      ports{boxes,         dlgPic,      picActual,
+            loader,        controls,    form,
+            settings,      files,       AppInfo{kScriptedAppPath, "Slicewright", "slicewright"},
+            jpgCompDialog, aboutWindow, shell,
+            registry,      sysInfo} {}
 
 } // namespace sw::scripted

@@ -2,6 +2,7 @@
 
 #include "ports/Ports.h"
 #include "tools/scenario/Answers.h"
+#include "tools/scenario/ScriptedAboutWindow.h"
 #include "tools/scenario/ScriptedBoxes.h"
 #include "tools/scenario/ScriptedControls.h"
 #include "tools/scenario/ScriptedFileDialog.h"
@@ -9,7 +10,11 @@
 #include "tools/scenario/ScriptedForm.h"
 #include "tools/scenario/ScriptedPictureBox.h"
 #include "tools/scenario/ScriptedPictureLoader.h"
+#include "tools/scenario/ScriptedQualityDialog.h"
+#include "tools/scenario/ScriptedRegistry.h"
 #include "tools/scenario/ScriptedSettingsStore.h"
+#include "tools/scenario/ScriptedShell.h"
+#include "tools/scenario/ScriptedSystemInfoProgram.h"
 
 namespace sw::scripted {
 
@@ -31,6 +36,11 @@ public:
     ScriptedForm form{transcript};
     ScriptedSettingsStore settings{transcript};
     ScriptedFileSystem files{transcript};
+    ScriptedQualityDialog jpgCompDialog{transcript, answers};
+    ScriptedAboutWindow aboutWindow{transcript};
+    ScriptedShell shell{transcript};
+    ScriptedRegistry registry{transcript};
+    ScriptedSystemInfoProgram sysInfo{transcript};
     Ports ports;
 };
 

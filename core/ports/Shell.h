@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+namespace sw {
+
+// The desktop's own way of opening a web address or a document with the
+// program it has for it. Failures are not reported: nothing happens.
+class Shell {
+public:
+    virtual ~Shell() = default;
+    virtual void OpenDocument(const std::string& target) = 0;
+};
+
+} // namespace sw
