@@ -54,6 +54,15 @@ std::optional<std::string> sizeProblem(QSize size) {
     return std::nullopt;
 }
 
+// The size the header gives, whether or not Qt would decode such a picture.
+QSize headerSize(QImageReader& reader, const std::string& path) {
+    const QSize size = reader.size();
+    if (size.isValid()) {
+        return size;
+    }
+    return ClaimedBmpSize(path).value_or(size);
+}
+
 // Qt refuses to allocate images beyond a global limit; it must admit every
 // picture that passed the size check above, and no more.
 void allowPicturesUpToTheBudget() {
@@ -85,7 +94,7 @@ LoadedPicture QtPictureLoader::LoadPicture(const std::string& path) {
     allowPicturesUpToTheBudget();
     QImageReader reader(name);
     reader.setAutoTransform(false);
-    if (const std::optional<std::string> problem = sizeProblem(reader.size())) {
+    if (const std::optional<std::string> problem = sizeProblem(headerSize(reader, path))) {
         return failure(*problem);
     }
     if (const std::optional<std::string> problem =
