@@ -71,8 +71,10 @@ void allowPicturesUpToTheBudget() {
 }
 
 // Bottom-up rows of blue, green and red, padded to 4 bytes.
-Picture toPicture(const QImage& decoded) {
-    const QImage bgr = decoded.convertToFormat(QImage::Format_BGR888);
+// The decoded image is converted in place where Qt can, to keep the peak of
+// memory low on large pictures.
+Picture toPicture(QImage bgr) {
+    bgr.convertTo(QImage::Format_BGR888);
     const int width = bgr.width();
     const int height = bgr.height();
     const std::size_t stride = Picture::Stride(width);
@@ -101,13 +103,13 @@ LoadedPicture QtPictureLoader::LoadPicture(const std::string& path) {
             TruncationProblem(path, reader.format().toStdString())) {
         return failure(*problem);
     }
-    const QImage decoded = reader.read();
+    QImage decoded = reader.read();
     if (decoded.isNull()) {
         return failure("the picture could not be decoded (" + reader.errorString().toStdString() +
                        ")");
     }
     LoadedPicture result;
-    result.picture = toPicture(decoded);
+    result.picture = toPicture(std::move(decoded));
     return result;
 }
 

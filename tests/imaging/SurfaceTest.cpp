@@ -122,6 +122,7 @@ TEST(SurfaceLifecycle, ClearUpDropsTheBufferButKeepsTheSize) {
     EXPECT_EQ(s.DIBSectionBitsPtr(), nullptr);
     EXPECT_EQ(s.Width(), 10);
     EXPECT_EQ(s.BytesPerScanLine(), 32);
+    s.RandomiseBits();           // without a buffer there is nothing to fill
     ASSERT_TRUE(s.Create(2, 2)); // a surface can be made again
     EXPECT_NE(s.DIBSectionBitsPtr(), nullptr);
 }
