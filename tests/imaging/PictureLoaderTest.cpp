@@ -47,7 +47,7 @@ Bytes bmpHeaders(std::int32_t width, std::int32_t height, int bits, int compress
     putLe(out, static_cast<std::uint32_t>(bits), 2);
     putLe(out, static_cast<std::uint32_t>(compression), 4);
     putLe(out, imageBytes, 4);
-    putLe(out, 0, 16);
+    out.insert(out.end(), 16, 0); // resolution, palette size, important colours
     return out;
 }
 
