@@ -41,7 +41,7 @@ double blend(float weight, double near, double far) {
                          static_cast<double>(weight) * far);
 }
 
-// Reads the four neighbours of one sample point; a source one pixel wide or
+// Where the four neighbours of one sample point stand; a source one pixel wide or
 // high repeats its edge pixel instead of reading past it.
 struct Neighbours {
     i32 left;
