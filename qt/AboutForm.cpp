@@ -41,7 +41,8 @@ void AboutForm::setupTexts(const frmAbout& form) {
     version->setStyleSheet("font-weight: bold");
     layout()->addWidget(version);
     layout()->addWidget(centred(ToQ(form.lblDescription), this));
-    QLabel* forums = centred(QString("<a href=\"forums\">%1</a>").arg(frmAbout::kForumsCaption), this);
+    QLabel* forums =
+        centred(QString("<a href=\"forums\">%1</a>").arg(frmAbout::kForumsCaption), this);
     forums->setCursor(Qt::PointingHandCursor);
     connect(forums, &QLabel::linkActivated, this, [this] { raise_(&frmAbout::lblForums_Click); });
     layout()->addWidget(forums);
@@ -64,6 +65,8 @@ void AboutForm::setupButtons() {
 }
 
 // OK is also the cancel button: Esc and the close box close the window.
-void AboutForm::reject() { raise_(&frmAbout::cmdOK_Click); }
+void AboutForm::reject() {
+    raise_(&frmAbout::cmdOK_Click);
+}
 
 } // namespace sw::qt

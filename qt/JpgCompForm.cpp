@@ -25,8 +25,8 @@ std::optional<i16> keyAsciiOf(const QKeyEvent& key) {
         return kBackspace;
     }
     const QString text = key.text();
-    const bool ownKey = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter ||
-                        key.key() == Qt::Key_Escape;
+    const bool ownKey =
+        key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter || key.key() == Qt::Key_Escape;
     if (text.isEmpty() || ownKey) {
         return std::nullopt;
     }

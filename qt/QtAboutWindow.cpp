@@ -6,7 +6,9 @@
 
 namespace sw::qt {
 
-QtAboutWindow::~QtAboutWindow() { delete window_; }
+QtAboutWindow::~QtAboutWindow() {
+    delete window_;
+}
 
 void QtAboutWindow::Show(std::unique_ptr<frmAbout> form) {
     form_ = std::move(form);

@@ -8,8 +8,7 @@ namespace sw::qt {
 // search for a system-information program goes on to the desktop's own.
 class QtRegistry : public Registry {
 public:
-    bool QueryValue(RegistryRoot, const std::string&, const std::string&,
-                    RegistryValue&) override {
+    bool QueryValue(RegistryRoot, const std::string&, const std::string&, RegistryValue&) override {
         return false;
     }
 };
