@@ -1,13 +1,113 @@
 #include "export/ExportRun.h"
 
+#include "export/ChooseDestination.h"
+#include "export/HtmlOutput.h"
+#include "export/OverwritePreCheck.h"
+#include "export/SectionArea.h"
+#include "export/SectionGrid.h"
+#include "export/SectionWriter.h"
+#include "session/SectionLines.h"
 #include "session/Session.h"
 
 namespace sw {
+namespace {
 
-// Interim: the export arrives with the section writer.
-void mnuCreate_Click(Session& session) {
-    session.ports.boxes.Show({"Create Sections", "Creating sections is not available yet.",
-                              BoxIcon::Information, BoxButtons::OK, BoxResult::OK});
+void showStop(Session& session, const std::string& text) {
+    session.ports.boxes.Show({"Error!", text, BoxIcon::Critical, BoxButtons::OK, BoxResult::OK});
+}
+
+CutPlan planTheCut(Session& session, const CutDestination& destination) {
+    SessionState& s = session.state;
+    SortLines(s.hLines, s.hLineCount);
+    SortLines(s.vLines, s.vLineCount);
+    return BuildSectionGrid({s.hLines, s.hLineCount}, {s.vLines, s.vLineCount},
+                            session.ports.picActual.Width(), session.ports.picActual.Height(),
+                            destination);
+}
+
+// Lines on one place, at 0, or on or past the picture's edge leave sections
+// with nothing to cut. The user learns which before any file is written and
+// may stop; going on writes the others under their grid numbers.
+bool acceptSectionsWithoutArea(Session& session, const CutPlan& plan) {
+    const Picture& picture = session.clipContainer.picture;
+    const std::vector<i32> empty = SectionsWithoutArea(plan, picture.Width(), picture.Height());
+    if (empty.empty()) {
+        return true;
+    }
+    FormWindow& form = session.ports.form;
+    form.SetMousePointer(MousePointer::Default);
+    const BoxResult answer = session.ports.boxes.Show(
+        {"Sections Without Area",
+         "Section(s) " + NumberList(empty) +
+             " have no area inside the picture: two lines lie on one place, or a line lies "
+             "on or beyond the picture's edge.\r\nThey are not written, and the HTML table "
+             "keeps an empty cell for each.  Continue with the other sections?",
+         BoxIcon::Exclamation, BoxButtons::YesNo, BoxResult::Yes});
+    if (answer != BoxResult::Yes) {
+        return false;
+    }
+    form.SetMousePointer(MousePointer::Hourglass);
+    return true;
+}
+
+// An encoder failure keeps its one fixed box. A file that cannot be written
+// or a section that cannot be cut names the file and the cause, since the
+// user has to act on them (another folder, room on the disk).
+void reportFailure(Session& session, const SectionFailure& failure) {
+    switch (failure.kind) {
+    case SectionFailure::Kind::Encoder:
+        showStop(session, "JPG File Creation Error!!!");
+        break;
+    case SectionFailure::Kind::File:
+        showStop(session, "The section file " + failure.path + " could not be written: " +
+                              failure.reason + ".\r\nThe sections before it are written; "
+                                               "no further section is.");
+        break;
+    case SectionFailure::Kind::Clip:
+        showStop(session, "The section " + failure.path + " could not be cut from the picture: " +
+                              failure.reason + ".\r\nThe sections before it are written; "
+                                               "no further section is.");
+        break;
+    }
+}
+
+// Sorts, plans and writes every section; false when the run ends early.
+bool cutSections(Session& session, SectionEncoder& encoder, const CutPlan& plan,
+                 SectionCells& cells) {
+    if (!acceptSectionsWithoutArea(session, plan)) {
+        return false;
+    }
+    SessionState& s = session.state;
+    SectionOutput output{session.clipContainer, s.SaveFormat, s.JPGComp, encoder};
+    const std::optional<SectionFailure> failure = WriteSections(output, plan, cells);
+    if (failure) {
+        reportFailure(session, *failure);
+    }
+    session.ports.form.SetMousePointer(MousePointer::Default);
+    return !failure;
+}
+
+} // namespace
+
+void RunExport(Session& session, SectionEncoder& encoder) {
+    SessionState& s = session.state;
+    if (!s.linesDrawn) {
+        session.ports.boxes.Show({"Sections?", "No Lines Drawn yet!", BoxIcon::Exclamation,
+                                  BoxButtons::OK, BoxResult::OK});
+        return;
+    }
+    const std::optional<CutDestination> destination = ChooseDestination(session);
+    if (!destination || !OverwritePreCheck(session, *destination, s.hLineCount, s.vLineCount)) {
+        return;
+    }
+    session.ports.form.SetMousePointer(MousePointer::Hourglass);
+    const CutPlan plan = planTheCut(session, *destination);
+    SectionCells cells;
+    // A run that ends early leaves the lines on the picture, so that the user
+    // can put things right and cut again.
+    if (cutSections(session, encoder, plan, cells) && OfferHTML(session, plan, cells)) {
+        ClearLines(session);
+    }
 }
 
 } // namespace sw

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "ports/AppInfo.h"
+#include "ports/Clipboard.h"
 #include "ports/Controls.h"
+#include "ports/ExportDialogs.h"
 #include "ports/FileDialog.h"
 #include "ports/FileSystem.h"
 #include "ports/FormWindow.h"
@@ -24,6 +26,8 @@ struct Ports {
     FormWindow& form;
     SettingsStore& settings;
     FileSystem& files;
+    ExportDialogs& exportDialogs;
+    Clipboard& clipboard;
     AppInfo app;
 };
 

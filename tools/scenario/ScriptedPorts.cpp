@@ -5,6 +5,7 @@ namespace sw::scripted {
 ScriptedPorts::ScriptedPorts(std::ostream& out, PictureLoader* realLoader)
     : transcript(out), loader(transcript, realLoader),
       ports{boxes, dlgPic, picActual, loader, controls, form, settings, files,
+            exportDialogs, clipboard,
             AppInfo{kScriptedAppPath, "Slicewright", "slicewright"}} {}
 
 } // namespace sw::scripted

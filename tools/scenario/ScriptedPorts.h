@@ -3,7 +3,9 @@
 #include "ports/Ports.h"
 #include "tools/scenario/Answers.h"
 #include "tools/scenario/ScriptedBoxes.h"
+#include "tools/scenario/ScriptedClipboard.h"
 #include "tools/scenario/ScriptedControls.h"
+#include "tools/scenario/ScriptedExportDialogs.h"
 #include "tools/scenario/ScriptedFileDialog.h"
 #include "tools/scenario/ScriptedFileSystem.h"
 #include "tools/scenario/ScriptedForm.h"
@@ -31,6 +33,8 @@ public:
     ScriptedForm form{transcript};
     ScriptedSettingsStore settings{transcript};
     ScriptedFileSystem files{transcript};
+    ScriptedExportDialogs exportDialogs{transcript, answers};
+    ScriptedClipboard clipboard{transcript};
     Ports ports;
 };
 
