@@ -24,12 +24,21 @@ void refuseEnding(Session& session, const std::string& fileName) {
                               BoxIcon::Exclamation, BoxButtons::OK, BoxResult::OK});
 }
 
+// A remembered folder may lack its closing separator (the first default is
+// the program's folder); the files still go into it, not beside it.
+std::string folderOf(const std::string& lastSaveDir) {
+    if (lastSaveDir.empty() || lastSaveDir.back() == '/') {
+        return lastSaveDir;
+    }
+    return lastSaveDir + '/';
+}
+
 CutDestination destinationOf(SessionState& s, const std::string& fileName) {
     const SplitName split = SplitChosenName(fileName);
     if (split.Folder) {
         s.LastSaveDir = *split.Folder;
     }
-    return {s.LastSaveDir, split.BaseName, ExtensionOfFormat(s.SaveFormat)};
+    return {folderOf(s.LastSaveDir), split.BaseName, ExtensionOfFormat(s.SaveFormat)};
 }
 
 } // namespace

@@ -69,7 +69,7 @@ bool writeText(Session& session, const std::string& name, const std::string& tex
 
 bool WriteTableFile(Session& session, const CutPlan& plan, const SectionCells& cells) {
     const std::string defaultName =
-        session.state.LastSaveDir + plan.Destination.BaseName + ".html";
+        plan.Destination.Folder + plan.Destination.BaseName + ".html";
     const std::optional<std::string> name = chooseTableName(session, defaultName);
     if (!name) {
         return true;

@@ -1,6 +1,7 @@
 #include "tools/scenario/ScenarioRunner.h"
 
 #include "session/SessionStateDump.h"
+#include "tools/scenario/ExportCommands.h"
 #include "tools/scenario/ScriptTokens.h"
 #include "window/EventTable.h"
 #include "window/FormLifecycle.h"
@@ -59,6 +60,7 @@ ScenarioRunner::ScenarioRunner(std::ostream& transcript, PictureLoader* realLoad
     : ports_(transcript, realLoader), session_(ports_.ports) {
     ports_.form.onUnload = [this] { Form_Unload(session_); };
     addBuiltInCommands();
+    AddExportCommands(*this);
 }
 
 void ScenarioRunner::addBuiltInCommands() {
