@@ -1,8 +1,11 @@
 #include "tools/scenario/RealPictureLoader.h"
 
+#include "qt/image/QtPictureLoader.h"
+
 namespace sw::scripted {
 
-// Interim: real files are decoded once the Qt image reader is wired in.
-std::unique_ptr<PictureLoader> MakeRealPictureLoader() { return nullptr; }
+std::unique_ptr<PictureLoader> MakeRealPictureLoader() {
+    return std::make_unique<QtPictureLoader>();
+}
 
 } // namespace sw::scripted

@@ -1,0 +1,105 @@
+#include "qt/image/QtPictureLoader.h"
+
+#include "qt/image/PictureFileCheck.h"
+
+#include <QFileInfo>
+#include <QImage>
+#include <QImageReader>
+#include <cstring>
+#include <optional>
+#include <vector>
+
+namespace sw {
+namespace {
+
+LoadedPicture failure(std::string reason) {
+    LoadedPicture result;
+    result.error = std::move(reason);
+    return result;
+}
+
+std::string sizeText(QSize size) {
+    return std::to_string(size.width()) + " x " + std::to_string(size.height()) + " pixels";
+}
+
+// Why the file cannot even be handed to a decoder, if it cannot.
+std::optional<std::string> fileProblem(const QFileInfo& file) {
+    if (!file.exists()) {
+        return "the file does not exist";
+    }
+    if (file.isDir()) {
+        return "it is a folder, not a picture file";
+    }
+    if (!file.isReadable()) {
+        return "the file cannot be read (permission denied)";
+    }
+    if (file.size() == 0) {
+        return "the file is empty";
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> sizeProblem(QSize size) {
+    if (!size.isValid() || size.isEmpty()) {
+        return "the file is not a BMP, JPG or GIF picture, or it is damaged";
+    }
+    if (size.width() > QtPictureLoader::kMaxSide || size.height() > QtPictureLoader::kMaxSide) {
+        return "the picture is " + sizeText(size) + "; at most " +
+               std::to_string(QtPictureLoader::kMaxSide) +
+               " pixels in either direction can be opened";
+    }
+    if (std::int64_t{size.width()} * size.height() > QtPictureLoader::kMaxPixels) {
+        return "the picture is " + sizeText(size) + ", too large to open";
+    }
+    return std::nullopt;
+}
+
+// Qt refuses to allocate images beyond a global limit; it must admit every
+// picture that passed the size check above, and no more.
+void allowPicturesUpToTheBudget() {
+    constexpr std::int64_t megabytes = QtPictureLoader::kMaxPixels * 4 / (1024 * 1024) + 1;
+    QImageReader::setAllocationLimit(static_cast<int>(megabytes));
+}
+
+// Bottom-up rows of blue, green and red, padded to 4 bytes.
+Picture toPicture(const QImage& decoded) {
+    const QImage bgr = decoded.convertToFormat(QImage::Format_BGR888);
+    const int width = bgr.width();
+    const int height = bgr.height();
+    const std::size_t stride = Picture::Stride(width);
+    std::vector<std::uint8_t> bytes(stride * static_cast<std::size_t>(height), 0);
+    for (int y = 0; y < height; ++y) {
+        std::uint8_t* target = bytes.data() + stride * static_cast<std::size_t>(height - 1 - y);
+        std::memcpy(target, bgr.constScanLine(y), 3 * static_cast<std::size_t>(width));
+    }
+    return Picture::FromBottomUpBgr(width, height, std::move(bytes));
+}
+
+} // namespace
+
+LoadedPicture QtPictureLoader::LoadPicture(const std::string& path) {
+    const QString name = QString::fromStdString(path);
+    if (const std::optional<std::string> problem = fileProblem(QFileInfo(name))) {
+        return failure(*problem);
+    }
+    allowPicturesUpToTheBudget();
+    QImageReader reader(name);
+    reader.setAutoTransform(false);
+    if (const std::optional<std::string> problem = sizeProblem(reader.size())) {
+        return failure(*problem);
+    }
+    if (const std::optional<std::string> problem =
+            TruncationProblem(path, reader.format().toStdString())) {
+        return failure(*problem);
+    }
+    const QImage decoded = reader.read();
+    if (decoded.isNull()) {
+        return failure("the picture could not be decoded (" + reader.errorString().toStdString() +
+                       ")");
+    }
+    LoadedPicture result;
+    result.picture = toPicture(decoded);
+    return result;
+}
+
+} // namespace sw

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "ports/PictureLoader.h"
+
+#include <cstdint>
+
+namespace sw {
+
+// Decodes BMP, JPG and GIF files (the first frame of an animation) with Qt's
+// image readers. The size is read from the header first: a picture larger
+// than the program can handle is refused before any pixel memory is taken.
+// Works without a QGuiApplication.
+class QtPictureLoader : public PictureLoader {
+public:
+    // Section lines are 16-bit pixel positions.
+    static constexpr int kMaxSide = 32767;
+    // The decoded pixels at 4 bytes each, which is what the reader takes.
+    static constexpr std::int64_t kMaxPixels = std::int64_t{128} * 1024 * 1024;
+
+    LoadedPicture LoadPicture(const std::string& path) override;
+};
+
+} // namespace sw
