@@ -21,10 +21,18 @@ void frmFinish::select(bool& option, const char* letter) {
     OutputType = letter;
 }
 
-void frmFinish::optScreen_Click() { select(optScreen, "S"); }
-void frmFinish::optFile_Click() { select(optFile, "F"); }
-void frmFinish::optNo_Click() { select(optNo, "N"); }
+void frmFinish::optScreen_Click() {
+    select(optScreen, "S");
+}
+void frmFinish::optFile_Click() {
+    select(optFile, "F");
+}
+void frmFinish::optNo_Click() {
+    select(optNo, "N");
+}
 
-void frmFinish::cmdContinue_Click() { loaded_ = false; }
+void frmFinish::cmdContinue_Click() {
+    loaded_ = false;
+}
 
 } // namespace sw

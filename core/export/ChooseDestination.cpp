@@ -18,10 +18,10 @@ void showSaveDialog(FileDialog& dlg, const SessionState& s) {
 }
 
 void refuseEnding(Session& session, const std::string& fileName) {
-    session.ports.boxes.Show({"Unknown file type!",
-                              "Unsupported file type: (*." + UpperCase(RightChars(fileName, 3)) +
-                                  ")",
-                              BoxIcon::Exclamation, BoxButtons::OK, BoxResult::OK});
+    session.ports.boxes.Show(
+        {"Unknown file type!",
+         "Unsupported file type: (*." + UpperCase(RightChars(fileName, 3)) + ")",
+         BoxIcon::Exclamation, BoxButtons::OK, BoxResult::OK});
 }
 
 // A remembered folder may lack its closing separator (the first default is

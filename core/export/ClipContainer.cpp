@@ -7,6 +7,8 @@ bool ClipContainer::ClipInside() const {
            ClipX + ClipWidth <= picture.Width() && ClipY + ClipHeight <= picture.Height();
 }
 
-Picture ClipContainer::Clip() const { return picture.Clip(ClipX, ClipY, ClipWidth, ClipHeight); }
+Picture ClipContainer::Clip() const {
+    return picture.Clip(ClipX, ClipY, ClipWidth, ClipHeight);
+}
 
 } // namespace sw

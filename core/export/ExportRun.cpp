@@ -59,14 +59,16 @@ void reportFailure(Session& session, const SectionFailure& failure) {
         showStop(session, "JPG File Creation Error!!!");
         break;
     case SectionFailure::Kind::File:
-        showStop(session, "The section file " + failure.path + " could not be written: " +
-                              failure.reason + ".\r\nThe sections before it are written; "
-                                               "no further section is.");
+        showStop(session, "The section file " + failure.path +
+                              " could not be written: " + failure.reason +
+                              ".\r\nThe sections before it are written; "
+                              "no further section is.");
         break;
     case SectionFailure::Kind::Clip:
-        showStop(session, "The section " + failure.path + " could not be cut from the picture: " +
-                              failure.reason + ".\r\nThe sections before it are written; "
-                                               "no further section is.");
+        showStop(session, "The section " + failure.path +
+                              " could not be cut from the picture: " + failure.reason +
+                              ".\r\nThe sections before it are written; "
+                              "no further section is.");
         break;
     }
 }

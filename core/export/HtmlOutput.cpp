@@ -68,8 +68,7 @@ bool writeText(Session& session, const std::string& name, const std::string& tex
 } // namespace
 
 bool WriteTableFile(Session& session, const CutPlan& plan, const SectionCells& cells) {
-    const std::string defaultName =
-        plan.Destination.Folder + plan.Destination.BaseName + ".html";
+    const std::string defaultName = plan.Destination.Folder + plan.Destination.BaseName + ".html";
     const std::optional<std::string> name = chooseTableName(session, defaultName);
     if (!name) {
         return true;

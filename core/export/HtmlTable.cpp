@@ -15,7 +15,9 @@ std::string CellText(const std::string& cellName) {
     return "<TD VALIGN=TOP ALIGN=LEFT><IMG SRC=\"" + cellName + "\" BORDER=0></TD>";
 }
 
-std::string EmptyCellText() { return "<TD></TD>"; }
+std::string EmptyCellText() {
+    return "<TD></TD>";
+}
 
 std::vector<std::string> BuildTableLines(const SectionCells& cells, i32 columns) {
     std::vector<std::string> lines{kTableStart, kRowStart};

@@ -11,8 +11,7 @@ void ImagingSectionEncoder::SaveBmp(const Picture& clip, const std::string& file
     SavePicture(clip, fileName);
 }
 
-bool ImagingSectionEncoder::SaveJpg(const Picture& clip, const std::string& fileName,
-                                    i32 quality) {
+bool ImagingSectionEncoder::SaveJpg(const Picture& clip, const std::string& fileName, i32 quality) {
     // One surface a section, released before the next is made. A surface that
     // could not be made has no buffer, and the writer refuses it.
     cDIBSection surface;

@@ -24,7 +24,9 @@ SectionRect PartInsidePicture(const SectionRect& section, i32 pictureWidth, i32 
     return inside;
 }
 
-bool HasArea(const SectionRect& section) { return section.Width > 0 && section.Height > 0; }
+bool HasArea(const SectionRect& section) {
+    return section.Width > 0 && section.Height > 0;
+}
 
 std::vector<i32> SectionsWithoutArea(const CutPlan& plan, i32 pictureWidth, i32 pictureHeight) {
     std::vector<i32> numbers;

@@ -47,7 +47,12 @@ SectionRect sectionAt(const CutDestination& destination, i32 number, std::pair<i
                       std::pair<i32, i32> row) {
     const std::string fileName = SectionFileName(destination, number);
     const std::size_t folderLength = destination.Folder.size();
-    return {number,          column.first, row.first, column.second, row.second, fileName,
+    return {number,
+            column.first,
+            row.first,
+            column.second,
+            row.second,
+            fileName,
             fileName.substr(folderLength)};
 }
 
@@ -74,7 +79,8 @@ CutPlan BuildSectionGrid(GridLines horizontal, GridLines vertical, float picture
     i32 number = 0;
     for (std::size_t r = 0; r < rows.inner.size(); ++r) {
         for (std::size_t c = 0; c < columns.inner.size(); ++c) {
-            plan.Sections.push_back(sectionAt(destination, ++number, band(columns, c), band(rows, r)));
+            plan.Sections.push_back(
+                sectionAt(destination, ++number, band(columns, c), band(rows, r)));
         }
     }
     return plan;

@@ -5,6 +5,7 @@
 #include "tools/scenario/ScenarioRunner.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 
@@ -60,6 +61,18 @@ void listFiles(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
     runner.Print(line);
 }
 
+// Decodes a written file through the picture loader (which logs its size)
+// and prints the colour of its top-left pixel.
+void showImage(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
+    expectArguments(w, 1, "image \"path\"");
+    const LoadedPicture loaded = runner.Ports().loader.LoadPicture(w[1]);
+    if (loaded.ok()) {
+        char pixel[16];
+        std::snprintf(pixel, sizeof pixel, "0x%06X", loaded.picture.PixelAt(0, 0));
+        runner.Print("  top-left pixel " + std::string(pixel));
+    }
+}
+
 } // namespace
 
 void AddExportCommands(ScenarioRunner& runner) {
@@ -67,6 +80,7 @@ void AddExportCommands(ScenarioRunner& runner) {
     runner.AddCommand("file", makeFile);
     runner.AddCommand("show", showFile);
     runner.AddCommand("files", listFiles);
+    runner.AddCommand("image", showImage);
 }
 
 } // namespace sw::scripted

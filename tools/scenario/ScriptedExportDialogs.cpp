@@ -56,8 +56,8 @@ void ScriptedExportDialogs::ShowFinish(frmFinish& form) {
 
 void ScriptedExportDialogs::ShowHtml(frmHTML& form) {
     form.Form_Load();
-    const std::string line = "html show title=" + QuoteText(frmHTML::kTitle) +
-                             " text=" + QuoteText(form.rtxtHTML.Text);
+    const std::string line =
+        "html show title=" + QuoteText(frmHTML::kTitle) + " text=" + QuoteText(form.rtxtHTML.Text);
     const Answers::Tokens clicks = answers_.TakeTokens("html", line);
     transcript_.Line(line);
     for (const std::string& token : clicks) {

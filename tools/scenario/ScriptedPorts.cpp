@@ -3,9 +3,18 @@
 namespace sw::scripted {
 
 ScriptedPorts::ScriptedPorts(std::ostream& out, PictureLoader* realLoader)
-    : transcript(out), loader(transcript, realLoader),
-      ports{boxes, dlgPic, picActual, loader, controls, form, settings, files,
-            exportDialogs, clipboard,
-            AppInfo{kScriptedAppPath, "Slicewright", "slicewright"}} {}
+    : transcript(out),
+      loader(transcript, realLoader), ports{boxes,
+                                            dlgPic,
+                                            picActual,
+                                            loader,
+                                            controls,
+                                            form,
+                                            settings,
+                                            files,
+                                            exportDialogs,
+                                            clipboard,
+                                            AppInfo{kScriptedAppPath, "Slicewright",
+                                                    "slicewright"}} {}
 
 } // namespace sw::scripted

@@ -1,0 +1,105 @@
+#include "export/ExportRun.h"
+
+#include "session/Session.h"
+#include "tests/export/RecordingEncoder.h"
+#include "tools/scenario/ScriptedPorts.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <sstream>
+#include <unistd.h>
+
+namespace sw {
+namespace {
+
+namespace fs = std::filesystem;
+
+// A session on a 300 x 200 picture cut by the worked example's lines, with
+// the scripted ports writing to a transcript kept in memory.
+struct ExportRunTest : testing::Test {
+    std::ostringstream log;
+    scripted::ScriptedPorts ports{log, nullptr};
+    Session session{ports.ports};
+    RecordingEncoder encoder;
+    fs::path folder = fs::temp_directory_path() / ("slicewright-run-" + std::to_string(::getpid()));
+
+    void SetUp() override {
+        fs::remove_all(folder);
+        fs::create_directories(folder);
+        const Picture picture = Picture::Filled(300, 200, 0x808080);
+        session.clipContainer.picture = picture;
+        ports.picActual.SetPicture(picture);
+        SessionState& s = session.state;
+        s.hLines = {120, 50};
+        s.vLines = {100};
+        s.hLineCount = 2;
+        s.vLineCount = 1;
+        s.linesDrawn = true;
+        s.SaveFormat = "JPG";
+        s.HTMLOut = "N";
+        log.str("");
+    }
+    void TearDown() override { fs::remove_all(folder); }
+
+    void answer(const std::string& kind, std::vector<std::string> words) {
+        ports.answers.Add(kind, std::move(words));
+    }
+    std::string name(const std::string& file) const { return (folder / file).string(); }
+    bool logged(const std::string& text) const { return log.str().find(text) != std::string::npos; }
+};
+
+TEST_F(ExportRunTest, AFailedJpgAtTheLastSectionEndsTheRunWithoutHtmlOrClearQuestion) {
+    encoder.failAt = 6;
+    answer("save", {name("Tile.jpg")});
+    RunExport(session, encoder);
+    ports.answers.CheckAllUsed();
+    EXPECT_EQ(encoder.calls.size(), 6u);
+    EXPECT_TRUE(logged("box title=\"Error!\" text=\"JPG File Creation Error!!!\" icon=stop "
+                       "buttons=OK -> OK\nform pointer=Default\n"));
+    EXPECT_FALSE(logged("finish show"));
+    EXPECT_FALSE(logged("Clear Verification"));
+    // The lines stay, sorted, for another try.
+    EXPECT_EQ(session.state.hLines, (OneBasedArray<i16>{50, 120}));
+    EXPECT_TRUE(session.state.linesDrawn);
+}
+
+TEST_F(ExportRunTest, ABmpThatCannotBeWrittenNamesTheFileAndTheCause) {
+    encoder.failAt = 1;
+    session.state.SaveFormat = "BMP";
+    answer("save", {name("Tile.bmp")});
+    RunExport(session, encoder);
+    EXPECT_EQ(encoder.calls.size(), 1u);
+    EXPECT_TRUE(logged("text=\"The section file " + name("Tile1.bmp") +
+                       " could not be written: the disk is full."));
+    EXPECT_FALSE(logged("finish show"));
+}
+
+TEST_F(ExportRunTest, AnHtmlFileThatCannotBeWrittenIsReportedAndTheLinesStay) {
+    fs::create_directory(folder / "Tile.html"); // a folder where the table would go
+    answer("save", {name("Tile.bmp")});
+    answer("finish", {"F"});
+    RunExport(session, encoder);
+    ports.answers.CheckAllUsed();
+    EXPECT_EQ(encoder.calls.size(), 6u);
+    EXPECT_TRUE(logged("text=\"The HTML file " + name("Tile.html") +
+                       " could not be written: a folder of that name is in the way."));
+    EXPECT_FALSE(logged("Clear Verification"));
+    EXPECT_EQ(session.state.HTMLOut, "F");
+}
+
+TEST_F(ExportRunTest, StoppingAtSectionsWithoutAreaWritesNothing) {
+    session.state.vLines = {100, 100};
+    session.state.vLineCount = 2;
+    answer("save", {name("Tile.jpg")});
+    answer("box", {"No"});
+    RunExport(session, encoder);
+    ports.answers.CheckAllUsed();
+    EXPECT_TRUE(encoder.calls.empty());
+    EXPECT_TRUE(logged("text=\"Section(s) 2, 5, 8 have no area inside the picture"));
+    EXPECT_TRUE(logged(
+        "form pointer=Hourglass\nform pointer=Default\nbox title=\"Sections Without Area\""));
+    EXPECT_TRUE(log.str().ends_with("-> No\n"));
+}
+
+} // namespace
+} // namespace sw
