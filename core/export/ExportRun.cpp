@@ -12,10 +12,6 @@
 namespace sw {
 namespace {
 
-void showStop(Session& session, const std::string& text) {
-    session.ports.boxes.Show({"Error!", text, BoxIcon::Critical, BoxButtons::OK, BoxResult::OK});
-}
-
 CutPlan planTheCut(Session& session, const CutDestination& destination) {
     SessionState& s = session.state;
     SortLines(s.hLines, s.hLineCount);
@@ -53,24 +49,16 @@ bool acceptSectionsWithoutArea(Session& session, const CutPlan& plan) {
 // An encoder failure keeps its one fixed box. A file that cannot be written
 // or a section that cannot be cut names the file and the cause, since the
 // user has to act on them (another folder, room on the disk).
-void reportFailure(Session& session, const SectionFailure& failure) {
-    switch (failure.kind) {
-    case SectionFailure::Kind::Encoder:
-        showStop(session, "JPG File Creation Error!!!");
-        break;
-    case SectionFailure::Kind::File:
-        showStop(session, "The section file " + failure.path +
-                              " could not be written: " + failure.reason +
-                              ".\r\nThe sections before it are written; "
-                              "no further section is.");
-        break;
-    case SectionFailure::Kind::Clip:
-        showStop(session, "The section " + failure.path +
-                              " could not be cut from the picture: " + failure.reason +
-                              ".\r\nThe sections before it are written; "
-                              "no further section is.");
-        break;
+std::string failureText(const SectionFailure& failure) {
+    if (failure.kind == SectionFailure::Kind::Encoder) {
+        return "JPG File Creation Error!!!";
     }
+    const std::string what =
+        failure.kind == SectionFailure::Kind::File
+            ? "The section file " + failure.path + " could not be written: "
+            : "The section " + failure.path + " could not be cut from the picture: ";
+    return what + failure.reason +
+           ".\r\nFiles written before it stay; no further section is written.";
 }
 
 // Sorts, plans and writes every section; false when the run ends early.
@@ -83,7 +71,8 @@ bool cutSections(Session& session, SectionEncoder& encoder, const CutPlan& plan,
     SectionOutput output{session.clipContainer, s.SaveFormat, s.JPGComp, encoder};
     const std::optional<SectionFailure> failure = WriteSections(output, plan, cells);
     if (failure) {
-        reportFailure(session, *failure);
+        session.ports.boxes.Show(
+            {"Error!", failureText(*failure), BoxIcon::Critical, BoxButtons::OK, BoxResult::OK});
     }
     session.ports.form.SetMousePointer(MousePointer::Default);
     return !failure;
