@@ -12,6 +12,26 @@
 namespace sw {
 namespace {
 
+// Section numbers have at most seven digits; a grid beyond that (only a
+// line file or equal division on a huge picture can make one) would also
+// take more memory and files than any user wants from one command.
+constexpr std::int64_t kMostSections = 9'999'999;
+
+bool tooManySections(Session& session) {
+    const SessionState& s = session.state;
+    const std::int64_t sections =
+        (std::int64_t{s.hLineCount} + 1) * (std::int64_t{s.vLineCount} + 1);
+    if (sections <= kMostSections) {
+        return false;
+    }
+    session.ports.boxes.Show({"Too Many Sections",
+                              "The lines make " + std::to_string(sections) + " sections; at most " +
+                                  std::to_string(kMostSections) +
+                                  " can be cut at once.  Take some lines away first.",
+                              BoxIcon::Exclamation, BoxButtons::OK, BoxResult::OK});
+    return true;
+}
+
 CutPlan planTheCut(Session& session, const CutDestination& destination) {
     SessionState& s = session.state;
     SortLines(s.hLines, s.hLineCount);
@@ -61,7 +81,8 @@ std::string failureText(const SectionFailure& failure) {
            ".\r\nFiles written before it stay; no further section is written.";
 }
 
-// Sorts, plans and writes every section; false when the run ends early.
+// Writes every section, once the user has accepted those that cannot be
+// cut; false when the run ends early (the user has been told why).
 bool cutSections(Session& session, SectionEncoder& encoder, const CutPlan& plan,
                  SectionCells& cells) {
     if (!acceptSectionsWithoutArea(session, plan)) {
@@ -85,6 +106,9 @@ void RunExport(Session& session, SectionEncoder& encoder) {
     if (!s.linesDrawn) {
         session.ports.boxes.Show({"Sections?", "No Lines Drawn yet!", BoxIcon::Exclamation,
                                   BoxButtons::OK, BoxResult::OK});
+        return;
+    }
+    if (tooManySections(session)) {
         return;
     }
     const std::optional<CutDestination> destination = ChooseDestination(session);

@@ -101,5 +101,18 @@ TEST_F(ExportRunTest, StoppingAtSectionsWithoutAreaWritesNothing) {
     EXPECT_TRUE(log.str().ends_with("-> No\n"));
 }
 
+TEST_F(ExportRunTest, AGridBeyondSevenDigitNumbersIsRefusedBeforeTheDialog) {
+    session.state.hLineCount = 4999; // 5000 x 2000 sections: one past the limit
+    session.state.vLineCount = 1999;
+    RunExport(session, encoder);
+    EXPECT_TRUE(logged("box title=\"Too Many Sections\" text=\"The lines make 10000000 sections;"));
+    EXPECT_FALSE(logged("dialog save"));
+    session.state.vLineCount = 1; // the counts alone decide
+    session.state.hLineCount = 2;
+    answer("save", {""});
+    RunExport(session, encoder);
+    EXPECT_TRUE(logged("dialog save"));
+}
+
 } // namespace
 } // namespace sw
