@@ -63,44 +63,6 @@ TEST_F(ExportRunTest, AFailedJpgAtTheLastSectionEndsTheRunWithoutHtmlOrClearQues
     EXPECT_TRUE(session.state.linesDrawn);
 }
 
-TEST_F(ExportRunTest, ABmpThatCannotBeWrittenNamesTheFileAndTheCause) {
-    encoder.failAt = 1;
-    session.state.SaveFormat = "BMP";
-    answer("save", {name("Tile.bmp")});
-    RunExport(session, encoder);
-    EXPECT_EQ(encoder.calls.size(), 1u);
-    EXPECT_TRUE(logged("text=\"The section file " + name("Tile1.bmp") +
-                       " could not be written: the disk is full."));
-    EXPECT_FALSE(logged("finish show"));
-}
-
-TEST_F(ExportRunTest, AnHtmlFileThatCannotBeWrittenIsReportedAndTheLinesStay) {
-    fs::create_directory(folder / "Tile.html"); // a folder where the table would go
-    answer("save", {name("Tile.bmp")});
-    answer("finish", {"F"});
-    RunExport(session, encoder);
-    ports.answers.CheckAllUsed();
-    EXPECT_EQ(encoder.calls.size(), 6u);
-    EXPECT_TRUE(logged("text=\"The HTML file " + name("Tile.html") +
-                       " could not be written: a folder of that name is in the way."));
-    EXPECT_FALSE(logged("Clear Verification"));
-    EXPECT_EQ(session.state.HTMLOut, "F");
-}
-
-TEST_F(ExportRunTest, StoppingAtSectionsWithoutAreaWritesNothing) {
-    session.state.vLines = {100, 100};
-    session.state.vLineCount = 2;
-    answer("save", {name("Tile.jpg")});
-    answer("box", {"No"});
-    RunExport(session, encoder);
-    ports.answers.CheckAllUsed();
-    EXPECT_TRUE(encoder.calls.empty());
-    EXPECT_TRUE(logged("text=\"Section(s) 2, 5, 8 have no area inside the picture"));
-    EXPECT_TRUE(logged(
-        "form pointer=Hourglass\nform pointer=Default\nbox title=\"Sections Without Area\""));
-    EXPECT_TRUE(log.str().ends_with("-> No\n"));
-}
-
 TEST_F(ExportRunTest, AGridBeyondSevenDigitNumbersIsRefusedBeforeTheDialog) {
     session.state.hLineCount = 4999; // 5000 x 2000 sections: one past the limit
     session.state.vLineCount = 1999;

@@ -9,8 +9,8 @@
 
 namespace sw {
 
-// Records every section handed to it, and can fail at the n-th (from 1),
-// either as the encoder or as a file that cannot be written.
+// Records every section handed to it, and can fail at the n-th (from 1): as
+// the encoder on the JPG road, as a file that cannot be written on the BMP road.
 class RecordingEncoder : public SectionEncoder {
 public:
     struct Call {
@@ -22,7 +22,6 @@ public:
     };
     std::vector<Call> calls;
     std::size_t failAt = 0;
-    bool fileError = false;
 
     void SaveBmp(const Picture& clip, const std::string& fileName) override {
         record("bmp", clip, fileName);
@@ -37,7 +36,7 @@ private:
         if (calls.size() != failAt) {
             return true;
         }
-        if (fileError || road == "bmp") {
+        if (road == "bmp") {
             throw FileWriteError(fileName, "the disk is full");
         }
         return false;

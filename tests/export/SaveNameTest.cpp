@@ -43,12 +43,5 @@ TEST(SplitChosenName, KeepsTheFolderWithItsSeparatorAndCutsAtTheLastDotOnly) {
     }
 }
 
-TEST(TableFileNameFromDialog, AddsHtmlUnlessTheNameEndsInLowerCaseHtmlOrHtm) {
-    EXPECT_EQ(TableFileNameFromDialog("out/a.htm"), "out/a.htm");
-    EXPECT_EQ(TableFileNameFromDialog("out/a.html"), "out/a.html");
-    EXPECT_EQ(TableFileNameFromDialog("out/a.HTML"), "out/a.HTML.html");
-    EXPECT_EQ(TableFileNameFromDialog("out/a"), "out/a.html");
-}
-
 } // namespace
 } // namespace sw

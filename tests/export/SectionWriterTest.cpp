@@ -81,17 +81,6 @@ TEST(WriteSections, StopsAtTheFirstFailureWhereverItStands) {
     }
 }
 
-TEST(WriteSections, AFileThatCannotBeWrittenNamesItsPathAndCause) {
-    Writing w;
-    w.encoder.failAt = 2;
-    w.encoder.fileError = true;
-    const std::optional<SectionFailure> failure = w.write(planOf({}, {100}));
-    ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->kind, SectionFailure::Kind::File);
-    EXPECT_EQ(failure->path, "out/Tile2.jpg");
-    EXPECT_EQ(failure->reason, "the disk is full");
-}
-
 TEST(WriteSections, SectionsWithoutAreaGetAnEmptyCellAndNoFile) {
     Writing w;
     // Two lines at 50 and a column beyond the right edge: sections 2, 3, 4 and 6
