@@ -6,6 +6,7 @@
 #include "imaging/cDIBSection.h"
 
 #include <fcntl.h>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <sys/stat.h>
@@ -54,17 +55,29 @@ std::optional<int> refusal(const cDIBSection& surface, i32 quality) {
     return std::nullopt;
 }
 
+// The encoder's worst-case output, allocated up front so that it never grows
+// and copies its buffer; nothing (the encoder then allocates as it goes) for
+// a picture whose worst case the allocator cannot take in one piece.
+Encoded outputBuffer(const cDIBSection& surface) {
+    const unsigned long size = tjBufSize(surface.Width(), surface.Height(), TJSAMP_420);
+    if (size == static_cast<unsigned long>(-1) || size > std::numeric_limits<int>::max()) {
+        return {};
+    }
+    return {EncodedBytes(tjAlloc(static_cast<int>(size))), size};
+}
+
 // Compresses the buffer in its stored form: bottom-up BGR rows with their pad.
 Encoded encode(void* encoder, const cDIBSection& surface, i32 quality) {
     if (const std::optional<int> status = refusal(surface, quality)) {
         failWrite(*status);
     }
-    unsigned char* bytes = nullptr;
-    unsigned long size = 0;
+    Encoded encoded = outputBuffer(surface);
+    unsigned char* output = encoded.bytes.release();
+    const int flags = TJFLAG_BOTTOMUP | (output != nullptr ? TJFLAG_NOREALLOC : 0);
     const int status = tjCompress2(encoder, surface.DIBSectionBitsPtr(), surface.Width(),
-                                   surface.BytesPerScanLine(), surface.Height(), TJPF_BGR, &bytes,
-                                   &size, TJSAMP_420, quality, TJFLAG_BOTTOMUP);
-    Encoded encoded{EncodedBytes(bytes), size};
+                                   surface.BytesPerScanLine(), surface.Height(), TJPF_BGR, &output,
+                                   &encoded.size, TJSAMP_420, quality, flags);
+    encoded.bytes.reset(output);
     if (status != 0) {
         failWrite(status);
     }

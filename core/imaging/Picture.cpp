@@ -9,7 +9,8 @@ std::size_t Picture::Stride(int width) {
 }
 
 Picture Picture::FromBottomUpBgr(int width, int height, std::vector<std::uint8_t> bytes) {
-    if (width <= 0 || height <= 0 || bytes.size() < Stride(width) * static_cast<std::size_t>(height)) {
+    if (width <= 0 || height <= 0 ||
+        bytes.size() < Stride(width) * static_cast<std::size_t>(height)) {
         throw std::invalid_argument("picture buffer does not match its size");
     }
     auto pixels = std::make_shared<Pixels>();
@@ -50,8 +51,7 @@ std::uint32_t Picture::PixelAt(int x, int y) const {
 }
 
 Picture Picture::Clip(int x, int y, int width, int height) const {
-    if (x < 0 || y < 0 || width <= 0 || height <= 0 || x + width > width_ ||
-        y + height > height_) {
+    if (x < 0 || y < 0 || width <= 0 || height <= 0 || x + width > width_ || y + height > height_) {
         throw std::out_of_range("clip rectangle outside the picture");
     }
     Picture clip = *this;

@@ -66,6 +66,9 @@ std::uint8_t interpolate(const ConstPixelView& from, const Neighbours& n, i32 ch
 } // namespace
 
 void cDIBSection::RandomiseBits(bool bGray) {
+    if (DIBSectionBitsPtr() == nullptr) {
+        return; // nothing to fill
+    }
     const PixelView view(DIBSectionBitsPtr(), BytesPerScanLine(), Height());
     random_->Seed(clock_->SecondsSinceMidnight());
     const i32 xEnd = (Width() - 1) * 3;

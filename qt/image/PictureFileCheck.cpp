@@ -1,14 +1,25 @@
 #include "qt/image/PictureFileCheck.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstdlib>
 #include <fstream>
+#include <limits>
 
 namespace sw {
 namespace {
 
 constexpr const char* kCutOff = "the file is incomplete: it ends before the picture does";
+
+struct BmpHeader {
+    std::uint32_t pixelOffset = 0;
+    std::uint32_t infoSize = 0;
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+    std::uint32_t bits = 0;
+    std::uint32_t compression = 0;
+};
 
 std::uint32_t littleEndian(const std::array<unsigned char, 54>& bytes, int at, int count) {
     std::uint32_t value = 0;
@@ -18,23 +29,32 @@ std::uint32_t littleEndian(const std::array<unsigned char, 54>& bytes, int at, i
     return value;
 }
 
-// An uncompressed BMP must hold every row its header announces.
+// The file and info headers of a BMP file with a Windows (40 bytes or more) header.
+std::optional<BmpHeader> readBmpHeader(std::istream& file) {
+    std::array<unsigned char, 54> bytes{};
+    if (!file.read(reinterpret_cast<char*>(bytes.data()), bytes.size()) || bytes[0] != 'B' ||
+        bytes[1] != 'M' || littleEndian(bytes, 14, 4) < 40) {
+        return std::nullopt;
+    }
+    return BmpHeader{littleEndian(bytes, 10, 4),
+                     littleEndian(bytes, 14, 4),
+                     static_cast<std::int32_t>(littleEndian(bytes, 18, 4)),
+                     static_cast<std::int32_t>(littleEndian(bytes, 22, 4)),
+                     littleEndian(bytes, 28, 2),
+                     littleEndian(bytes, 30, 4)};
+}
+
+// An uncompressed BMP must hold every row its header announces; run-length
+// data says nothing about its length.
 bool bmpIsCutOff(std::ifstream& file, std::uint64_t fileSize) {
-    std::array<unsigned char, 54> header{};
-    if (!file.read(reinterpret_cast<char*>(header.data()), header.size())) {
-        return false; // too short for the decoder to have read it at all
+    const std::optional<BmpHeader> header = readBmpHeader(file);
+    if (!header || (header->compression != 0 && header->compression != 3)) {
+        return false;
     }
-    const std::uint32_t infoSize = littleEndian(header, 14, 4);
-    const std::uint32_t compression = littleEndian(header, 30, 4);
-    if (infoSize < 40 || (compression != 0 && compression != 3)) {
-        return false; // old headers and run-length data say nothing about the length
-    }
-    const std::uint64_t width = littleEndian(header, 18, 4);
-    const auto height = static_cast<std::int32_t>(littleEndian(header, 22, 4));
-    const std::uint64_t bits = littleEndian(header, 28, 2);
-    const std::uint64_t stride = (width * bits + 31) / 32 * 4;
-    const std::uint64_t rows = static_cast<std::uint64_t>(std::abs(std::int64_t{height}));
-    return fileSize < littleEndian(header, 10, 4) + stride * rows;
+    const auto width = static_cast<std::uint64_t>(std::abs(std::int64_t{header->width}));
+    const auto rows = static_cast<std::uint64_t>(std::abs(std::int64_t{header->height}));
+    const std::uint64_t stride = (width * header->bits + 31) / 32 * 4;
+    return fileSize < header->pixelOffset + stride * rows;
 }
 
 // A complete JPG ends its last scan with an end-of-image marker. Inside
@@ -73,6 +93,17 @@ std::optional<std::string> TruncationProblem(const std::string& path, const std:
                         : format == "jpeg" ? jpgIsCutOff(file)
                                            : false;
     return cutOff ? std::optional<std::string>(kCutOff) : std::nullopt;
+}
+
+std::optional<QSize> ClaimedBmpSize(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    const std::optional<BmpHeader> header = readBmpHeader(file);
+    if (!header) {
+        return std::nullopt;
+    }
+    const auto height = static_cast<int>(std::min<std::int64_t>(
+        std::abs(std::int64_t{header->height}), std::numeric_limits<int>::max()));
+    return QSize(header->width, height);
 }
 
 } // namespace sw

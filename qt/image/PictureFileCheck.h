@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <optional>
 #include <string>
 
@@ -10,5 +11,10 @@ namespace sw {
 // success; such a file is refused instead, so that nobody cuts sections out
 // of half a picture without knowing.
 std::optional<std::string> TruncationProblem(const std::string& path, const std::string& format);
+
+// The size a BMP file's header claims, for the pictures whose header Qt
+// refuses outright (beyond 16384 x 16384 pixels): so that the user learns
+// the picture is too large rather than that it is no picture.
+std::optional<QSize> ClaimedBmpSize(const std::string& path);
 
 } // namespace sw

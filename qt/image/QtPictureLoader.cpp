@@ -54,6 +54,15 @@ std::optional<std::string> sizeProblem(QSize size) {
     return std::nullopt;
 }
 
+// The size the header gives, whether or not Qt would decode such a picture.
+QSize headerSize(QImageReader& reader, const std::string& path) {
+    const QSize size = reader.size();
+    if (size.isValid()) {
+        return size;
+    }
+    return ClaimedBmpSize(path).value_or(size);
+}
+
 // Qt refuses to allocate images beyond a global limit; it must admit every
 // picture that passed the size check above, and no more.
 void allowPicturesUpToTheBudget() {
@@ -62,8 +71,10 @@ void allowPicturesUpToTheBudget() {
 }
 
 // Bottom-up rows of blue, green and red, padded to 4 bytes.
-Picture toPicture(const QImage& decoded) {
-    const QImage bgr = decoded.convertToFormat(QImage::Format_BGR888);
+// The decoded image is converted in place where Qt can, to keep the peak of
+// memory low on large pictures.
+Picture toPicture(QImage bgr) {
+    bgr.convertTo(QImage::Format_BGR888);
     const int width = bgr.width();
     const int height = bgr.height();
     const std::size_t stride = Picture::Stride(width);
@@ -85,20 +96,20 @@ LoadedPicture QtPictureLoader::LoadPicture(const std::string& path) {
     allowPicturesUpToTheBudget();
     QImageReader reader(name);
     reader.setAutoTransform(false);
-    if (const std::optional<std::string> problem = sizeProblem(reader.size())) {
+    if (const std::optional<std::string> problem = sizeProblem(headerSize(reader, path))) {
         return failure(*problem);
     }
     if (const std::optional<std::string> problem =
             TruncationProblem(path, reader.format().toStdString())) {
         return failure(*problem);
     }
-    const QImage decoded = reader.read();
+    QImage decoded = reader.read();
     if (decoded.isNull()) {
         return failure("the picture could not be decoded (" + reader.errorString().toStdString() +
                        ")");
     }
     LoadedPicture result;
-    result.picture = toPicture(decoded);
+    result.picture = toPicture(std::move(decoded));
     return result;
 }
 
