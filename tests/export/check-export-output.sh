@@ -3,7 +3,8 @@
 # picture along an uneven grid (drawing the lines in red on the working copy),
 # then ImageMagick decodes every section and compares it with its rectangle
 # of the clean picture, and headless Chromium renders the HTML table beside
-# the BMP sections, which must give the picture back pixel for pixel.
+# the BMP sections, which must give the picture back pixel for pixel; so
+# must a table whose grid has sections without area, kept as empty cells.
 #
 #   check-export-output.sh files|browser RUNNER PICTURE WORKDIR
 set -euo pipefail
@@ -36,36 +37,56 @@ vlines=(13 100 222)
 read -r width height < <("$identify" -format '%w %h\n' "$picture")
 
 rm -rf "$work"
-mkdir -p "$work/bmp" "$work/jpg"
+mkdir -p "$work/bmp" "$work/jpg" "$work/degenerate"
 cd "$work"
 
-write_script() {
-    echo 'store HTMLOut "F"'
+# draw_lines DIRECTION POSITIONS...: clicks on the picture in that draw mode.
+draw_lines() {
+    local direction=$1
+    shift
+    echo "event mnu${direction}Line_Click"
+    for position in "$@"; do
+        echo "event picActual_MouseMove $position $position"
+        echo event picActual_Click
+    done
+}
+
+# export_to NAME [ANSWER]: one run into NAME, the table in a file, the lines kept;
+# ANSWER goes to the question about sections without area.
+export_to() {
+    echo "answer save \"$1\""
+    [[ -n ${2:-} ]] && echo "answer box $2"
+    echo 'answer finish F'
+    echo 'answer box No'
+    echo event mnuCreate_Click
+}
+
+opening() {
+    echo 'store HTMLOut "N"'
     echo start
     echo "answer open \"$picture\""
     echo event mnuOPen_Click
     echo event mnuRed_Click
-    echo event mnuHorizontalLine_Click
-    for y in "${hlines[@]}"; do
-        echo "event picActual_MouseMove 5 $y"
-        echo event picActual_Click
-    done
-    echo event mnuVerticalLine_Click
-    for x in "${vlines[@]}"; do
-        echo "event picActual_MouseMove $x 5"
-        echo event picActual_Click
-    done
-    echo 'answer save "bmp/Tile.bmp"'
-    echo 'answer finish F'
-    echo 'answer box No'
-    echo event mnuCreate_Click
-    echo 'answer save "jpg/Tile.jpg"'
-    echo 'answer finish N'
-    echo 'answer box No'
-    echo event mnuCreate_Click
 }
-write_script > export.scn
-"$runner" export.scn > transcript.txt || fail "the scenario runner stopped: $(cat transcript.txt | tail -3)"
+
+{
+    opening
+    draw_lines Horizontal "${hlines[@]}"
+    draw_lines Vertical "${vlines[@]}"
+    export_to bmp/Tile.bmp
+    export_to jpg/Tile.jpg
+} > export.scn
+"$runner" export.scn > transcript.txt || fail "the scenario runner stopped: $(tail -3 transcript.txt)"
+
+# Two lines on one place, a line at 0 and one past the right edge: sections
+# without area, whose empty cells must take no room in the table.
+{
+    opening
+    draw_lines Horizontal 80 80 0
+    draw_lines Vertical 100 $((width + 20))
+    export_to degenerate/Tile.bmp Yes
+} > degenerate.scn
+"$runner" degenerate.scn > degenerate.txt || fail "the scenario runner stopped: $(tail -3 degenerate.txt)"
 
 # Edges of the grid, computed here independently of the program.
 xs=(0 "${vlines[@]}" "$width")
@@ -127,7 +148,9 @@ check_sections() {
     echo "checked $number BMP and $number JPG sections"
 }
 
-check_browser() {
+# render_table HTML: the table as the browser shows it, cut to the picture's size.
+render_table() {
+    local html=$1 shown=$2
     local profile
     profile=$(mktemp -d)
     # The page's body keeps its default margin of 8 pixels; the table starts there.
@@ -136,14 +159,21 @@ check_browser() {
         --disable-background-networking --disable-component-update --disable-sync \
         --user-data-dir="$profile" --hide-scrollbars --force-device-scale-factor=1 \
         --window-size=$((width + 2 * margin)),$((height + 2 * margin)) \
-        --screenshot="$work/screen.png" "file://$work/bmp/Tile.html" > chromium.log 2>&1 || true
+        --screenshot="$work/screen.png" "file://$work/$html" > chromium.log 2>&1 || true
     rm -rf "$profile"
-    [[ -s screen.png ]] || fail "chromium made no screenshot: $(tail -3 chromium.log)"
-    "$convert" screen.png -crop "${width}x${height}+${margin}+${margin}" +repage shown.png
-    local differing
-    differing=$("$compare" -metric AE shown.png "$picture" null: 2>&1 || true)
-    [[ $differing == 0 ]] || fail "the table renders $differing pixels unlike the picture"
-    echo "the table renders the picture pixel for pixel"
+    [[ -s screen.png ]] || fail "chromium made no screenshot of $html: $(tail -3 chromium.log)"
+    "$convert" screen.png -crop "${width}x${height}+${margin}+${margin}" +repage "$shown"
+    rm -f screen.png
+}
+
+check_browser() {
+    for html in bmp/Tile.html degenerate/Tile.html; do
+        render_table "$html" shown.png
+        local differing
+        differing=$("$compare" -metric AE shown.png "$picture" null: 2>&1 || true)
+        [[ $differing == 0 ]] || fail "$html renders $differing pixels unlike the picture"
+        echo "$html renders the picture pixel for pixel"
+    done
 }
 
 case $mode in
