@@ -97,6 +97,38 @@ std::string folderIn(const std::string& work, const std::string& name) {
     return folder;
 }
 
+// The timed work of one measure, writing into `folder`. The bare loops get
+// their rectangles and names up front: they stand for the writing alone.
+using WorkIn = std::function<std::function<void()>(const std::string& folder)>;
+
+std::vector<Measure> measuresFor(const Picture& picture, const std::string& work) {
+    const std::vector<std::pair<std::string, WorkIn>> kinds = {
+        {"a_jpg",
+         [&](const std::string& f) { return [&, f] { exportInProcess(picture, f, "JPG"); }; }},
+        {"b_jpg",
+         [&](const std::string& f) {
+             return [&, plan = planFor(picture, f, ".jpg")] {
+                 bench::BareTurboJpeg(picture, plan, 90);
+             };
+         }},
+        {"a_bmp",
+         [&](const std::string& f) { return [&, f] { exportInProcess(picture, f, "BMP"); }; }},
+        {"b_bmp",
+         [&](const std::string& f) {
+             return [&, plan = planFor(picture, f, ".bmp")] { bench::BareBmp(picture, plan); };
+         }},
+    };
+    std::vector<Measure> measures;
+    for (const bool fresh : {true, false}) {
+        for (const auto& [name, workIn] : kinds) {
+            const std::string label = name + (fresh ? "" : "_replace");
+            const std::string folder = folderIn(work, label);
+            measures.push_back({label + "_ms", folder, fresh, workIn(folder)});
+        }
+    }
+    return measures;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -110,25 +142,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     const Picture& picture = loaded.picture;
-    const std::string work = argv[2];
-    const std::vector<std::pair<std::string, std::function<void(const std::string&)>>> kinds = {
-        {"a_jpg", [&](const std::string& f) { exportInProcess(picture, f, "JPG"); }},
-        {"b_jpg",
-         [&](const std::string& f) {
-             bench::BareTurboJpeg(picture, planFor(picture, f, ".jpg"), 90);
-         }},
-        {"a_bmp", [&](const std::string& f) { exportInProcess(picture, f, "BMP"); }},
-        {"b_bmp",
-         [&](const std::string& f) { bench::BareBmp(picture, planFor(picture, f, ".bmp")); }},
-    };
-    std::vector<Measure> measures;
-    for (const bool fresh : {true, false}) {
-        for (const auto& [name, write] : kinds) {
-            const std::string label = name + (fresh ? "" : "_replace");
-            const std::string folder = folderIn(work, label);
-            measures.push_back({label + "_ms", folder, fresh, [write, folder] { write(folder); }});
-        }
-    }
+    std::vector<Measure> measures = measuresFor(picture, argv[2]);
     try {
         runRounds(measures);
         for (const Measure& measure : measures) {
