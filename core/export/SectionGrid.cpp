@@ -9,16 +9,17 @@
 namespace sw {
 namespace {
 
-// 0, the lines in order, then the far edge from the twip size.
+// Where the bands of one direction start (0, then the lines in order), and
+// the far edge of the picture in twips, where the last band ends.
 struct Edges {
-    std::vector<i32> inner;
+    std::vector<i32> starts;
     float farTwips;
 };
 
 Edges edgesOf(GridLines lines, float farTwips) {
     Edges edges{{0}, farTwips};
     for (int i = 1; i <= lines.count; ++i) {
-        edges.inner.push_back(lines.lines(i));
+        edges.starts.push_back(lines.lines(i));
     }
     return edges;
 }
@@ -36,11 +37,11 @@ i32 lastSize(float farTwips, i32 start) {
 
 // Start and size of band `index` (from 0) between the edges.
 std::pair<i32, i32> band(const Edges& edges, std::size_t index) {
-    const i32 start = edges.inner[index];
-    if (index + 1 == edges.inner.size()) {
+    const i32 start = edges.starts[index];
+    if (index + 1 == edges.starts.size()) {
         return {start, lastSize(edges.farTwips, start)};
     }
-    return {start, edges.inner[index + 1] - start};
+    return {start, edges.starts[index + 1] - start};
 }
 
 SectionRect sectionAt(const CutDestination& destination, i32 number, std::pair<i32, i32> column,
@@ -74,11 +75,11 @@ CutPlan BuildSectionGrid(GridLines horizontal, GridLines vertical, float picture
                          float pictureHeightTwips, const CutDestination& destination) {
     const Edges rows = edgesOf(horizontal, pictureHeightTwips);
     const Edges columns = edgesOf(vertical, pictureWidthTwips);
-    CutPlan plan{destination, static_cast<i32>(columns.inner.size()), {}};
-    plan.Sections.reserve(rows.inner.size() * columns.inner.size());
+    CutPlan plan{destination, static_cast<i32>(columns.starts.size()), {}};
+    plan.Sections.reserve(rows.starts.size() * columns.starts.size());
     i32 number = 0;
-    for (std::size_t r = 0; r < rows.inner.size(); ++r) {
-        for (std::size_t c = 0; c < columns.inner.size(); ++c) {
+    for (std::size_t r = 0; r < rows.starts.size(); ++r) {
+        for (std::size_t c = 0; c < columns.starts.size(); ++c) {
             plan.Sections.push_back(
                 sectionAt(destination, ++number, band(columns, c), band(rows, r)));
         }
