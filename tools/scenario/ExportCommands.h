@@ -9,7 +9,8 @@ class ScenarioRunner;
 //   file "path" "text"       makes a file holding that text
 //   show "path"              prints the file's bytes, quoted, into the transcript
 //   files "folder"           prints the names of the files in a folder, sorted
-//   image "path"             decodes a picture file, printing its size and top-left pixel
+//   image "path"             decodes a picture file, printing its size (and top-left
+//                            pixel, but for a JPG)
 void AddExportCommands(ScenarioRunner& runner);
 
 } // namespace sw::scripted
