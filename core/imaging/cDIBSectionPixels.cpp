@@ -41,7 +41,7 @@ double blend(float weight, double near, double far) {
                          static_cast<double>(weight) * far);
 }
 
-// Reads the four neighbours of one sample point; a source one pixel wide or
+// Where the four neighbours of one sample point stand; a source one pixel wide or
 // high repeats its edge pixel instead of reading past it.
 struct Neighbours {
     i32 left;
@@ -63,6 +63,31 @@ std::uint8_t interpolate(const ConstPixelView& from, const Neighbours& n, i32 ch
     return static_cast<std::uint8_t>(std::clamp(blend(dx, left, right), 0.0, 255.0));
 }
 
+// Row by row, one draw a pixel for all three channels.
+void fillGrey(const PixelView& view, i32 width, RandomSource& random) {
+    const i32 xEnd = (width - 1) * 3;
+    for (i32 row = 0; row < view.Rows(); ++row) {
+        for (i32 x = 0; x <= xEnd; x += 3) {
+            const std::uint8_t grey = randomByte(random);
+            view(x, row) = grey;
+            view(x + 1, row) = grey;
+            view(x + 2, row) = grey;
+        }
+    }
+}
+
+// Column by column; the noise has no blue.
+void fillGreenAndRed(const PixelView& view, i32 width, RandomSource& random) {
+    const i32 xEnd = (width - 1) * 3;
+    for (i32 x = 0; x <= xEnd; x += 3) {
+        for (i32 row = 0; row < view.Rows(); ++row) {
+            view(x, row) = 0;
+            view(x + 1, row) = randomByte(random);
+            view(x + 2, row) = randomByte(random);
+        }
+    }
+}
+
 } // namespace
 
 void cDIBSection::RandomiseBits(bool bGray) {
@@ -71,25 +96,10 @@ void cDIBSection::RandomiseBits(bool bGray) {
     }
     const PixelView view(DIBSectionBitsPtr(), BytesPerScanLine(), Height());
     random_->Seed(clock_->SecondsSinceMidnight());
-    const i32 xEnd = (Width() - 1) * 3;
     if (bGray) {
-        for (i32 row = 0; row < view.Rows(); ++row) {
-            for (i32 x = 0; x <= xEnd; x += 3) {
-                const std::uint8_t grey = randomByte(*random_);
-                view(x, row) = grey;
-                view(x + 1, row) = grey;
-                view(x + 2, row) = grey;
-            }
-        }
-        return;
-    }
-    // Column by column; the noise has no blue.
-    for (i32 x = 0; x <= xEnd; x += 3) {
-        for (i32 row = 0; row < view.Rows(); ++row) {
-            view(x, row) = 0;
-            view(x + 1, row) = randomByte(*random_);
-            view(x + 2, row) = randomByte(*random_);
-        }
+        fillGrey(view, Width(), *random_);
+    } else {
+        fillGreenAndRed(view, Width(), *random_);
     }
 }
 

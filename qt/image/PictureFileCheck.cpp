@@ -80,6 +80,51 @@ bool jpgIsCutOff(std::ifstream& file) {
     return !endSeen;
 }
 
+// Skips `count` bytes; false when the file ends first.
+bool skip(std::istream& in, std::streamsize count) {
+    in.ignore(count);
+    return in.gcount() == count;
+}
+
+// Skips a chain of data sub-blocks up to its empty block; false when the file ends first.
+bool skipSubBlocks(std::istream& in) {
+    for (int size = in.get(); size != 0; size = in.get()) {
+        if (size == std::char_traits<char>::eof() || !skip(in, size)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// The size of a colour table that a GIF flags byte announces, 0 for none.
+std::streamsize colourTableSize(int flags) {
+    return (flags & 0x80) != 0 ? 3 * (std::streamsize{2} << (flags & 7)) : 0;
+}
+
+// A GIF must hold its first frame whole; what follows it is never shown.
+bool gifIsCutOff(std::ifstream& file) {
+    std::array<char, 13> screen{};
+    if (!file.read(screen.data(), screen.size()) ||
+        !skip(file, colourTableSize(static_cast<unsigned char>(screen[10])))) {
+        return true;
+    }
+    for (int block = file.get(); block != std::char_traits<char>::eof(); block = file.get()) {
+        if (block == 0x21) { // an extension: its label, then its data
+            if (file.get() == std::char_traits<char>::eof() || !skipSubBlocks(file)) {
+                return true;
+            }
+        } else if (block == 0x2C) { // the first image: descriptor, colours, code size, data
+            std::array<char, 9> descriptor{};
+            return !file.read(descriptor.data(), descriptor.size()) ||
+                   !skip(file, colourTableSize(static_cast<unsigned char>(descriptor[8])) + 1) ||
+                   !skipSubBlocks(file);
+        } else {
+            return false; // the trailer or an unknown block: for the decoder to judge
+        }
+    }
+    return true;
+}
+
 } // namespace
 
 std::optional<std::string> TruncationProblem(const std::string& path, const std::string& format) {
@@ -91,6 +136,7 @@ std::optional<std::string> TruncationProblem(const std::string& path, const std:
     file.seekg(0);
     const bool cutOff = format == "bmp"    ? bmpIsCutOff(file, fileSize)
                         : format == "jpeg" ? jpgIsCutOff(file)
+                        : format == "gif"  ? gifIsCutOff(file)
                                            : false;
     return cutOff ? std::optional<std::string>(kCutOff) : std::nullopt;
 }

@@ -7,7 +7,7 @@
 namespace sw {
 
 // Damage that a decoder would paper over. Qt's readers fill in what is
-// missing from a cut-off BMP or JPG file with grey or black and report
+// missing from a cut-off BMP, JPG or GIF file with grey or black and report
 // success; such a file is refused instead, so that nobody cuts sections out
 // of half a picture without knowing.
 std::optional<std::string> TruncationProblem(const std::string& path, const std::string& format);

@@ -105,8 +105,8 @@ LoadedPicture QtPictureLoader::LoadPicture(const std::string& path) {
     }
     QImage decoded = reader.read();
     if (decoded.isNull()) {
-        return failure("the picture could not be decoded (" + reader.errorString().toStdString() +
-                       ")");
+        return failure("the file is damaged: its picture cannot be decoded (" +
+                       reader.errorString().toStdString() + ")");
     }
     LoadedPicture result;
     result.picture = toPicture(std::move(decoded));
