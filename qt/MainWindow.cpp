@@ -37,12 +37,22 @@ bool isCheckable(Item item) {
 } // namespace
 
 MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath)
-    : picActual_(new PictureCanvas(nullptr)),
-      ports_{boxes_,         dlgPic_,      *picActual_,
-             loader,         controls_,    form_,
-             settings_,      files_,       AppInfo{appPath, "Slicewright", "slicewright"},
-             jpgCompDialog_, aboutWindow_, shell_,
-             registry_,      sysInfo_} {
+    : picActual_(new PictureCanvas(nullptr)), ports_{boxes_,
+                                                     dlgPic_,
+                                                     *picActual_,
+                                                     loader,
+                                                     controls_,
+                                                     form_,
+                                                     settings_,
+                                                     files_,
+                                                     exportDialogs_,
+                                                     clipboard_,
+                                                     AppInfo{appPath, "Slicewright", "slicewright"},
+                                                     jpgCompDialog_,
+                                                     aboutWindow_,
+                                                     shell_,
+                                                     registry_,
+                                                     sysInfo_} {
     aboutWindow_.raise = [this](void (frmAbout::*event)()) { RaiseAboutEvent(session_, event); };
     setWindowTitle("Slicewright");
     setupPictureArea();

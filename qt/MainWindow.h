@@ -3,7 +3,9 @@
 #include "ports/Ports.h"
 #include "qt/PictureCanvas.h"
 #include "qt/QtAboutWindow.h"
+#include "qt/QtClipboard.h"
 #include "qt/QtControls.h"
+#include "qt/QtExportDialogs.h"
 #include "qt/QtFileDialog.h"
 #include "qt/QtFileSystem.h"
 #include "qt/QtFormWindow.h"
@@ -54,6 +56,8 @@ private:
     QtFormWindow form_{this};
     QtSettingsStore settings_;
     QtFileSystem files_;
+    QtExportDialogs exportDialogs_{this};
+    QtClipboard clipboard_;
     QtQualityDialog jpgCompDialog_{this};
     QtAboutWindow aboutWindow_{this};
     QtShell shell_;

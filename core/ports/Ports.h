@@ -2,7 +2,9 @@
 
 #include "ports/AboutWindow.h"
 #include "ports/AppInfo.h"
+#include "ports/Clipboard.h"
 #include "ports/Controls.h"
+#include "ports/ExportDialogs.h"
 #include "ports/FileDialog.h"
 #include "ports/FileSystem.h"
 #include "ports/FormWindow.h"
@@ -29,6 +31,8 @@ struct Ports {
     FormWindow& form;
     SettingsStore& settings;
     FileSystem& files;
+    ExportDialogs& exportDialogs;
+    Clipboard& clipboard;
     AppInfo app;
     // The dialogs and what they reach beyond the program.
     QualityDialog& jpgCompDialog;

@@ -8,30 +8,11 @@
 namespace sw {
 namespace {
 
-// A picture box of any size in twips, also sizes no picture of whole pixels gives.
-class SizedPictureBox : public PictureBox {
-public:
-    SizedPictureBox(float width, float height) : width_(width), height_(height) {}
-    void SetPicture(const Picture&) override {}
-    bool Line(int, int, int, int, Color) override { return true; }
-    float Width() const override { return width_; }
-    float Height() const override { return height_; }
-    float Left() const override { return 0; }
-    float Top() const override { return 0; }
-
-private:
-    float width_;
-    float height_;
-};
-
 std::string factsBoxFor(float widthTwips, float heightTwips) {
     std::ostringstream transcript;
     scripted::ScriptedPorts o(transcript, nullptr);
-    SizedPictureBox box(widthTwips, heightTwips);
-    Ports ports{o.boxes,       o.dlgPic,   box,        o.loader,    o.controls,
-                o.form,        o.settings, o.files,    o.ports.app, o.jpgCompDialog,
-                o.aboutWindow, o.shell,    o.registry, o.sysInfo};
-    Session session(ports);
+    o.picActual.SetTwipSize(widthTwips, heightTwips);
+    Session session(o.ports);
     mnuPicAbout_Click(session);
     return transcript.str();
 }

@@ -2,6 +2,7 @@
 
 #include "session/SessionStateDump.h"
 #include "tools/scenario/DialogScriptCommands.h"
+#include "tools/scenario/ExportCommands.h"
 #include "tools/scenario/ScriptTokens.h"
 #include "window/EventTable.h"
 #include "window/FormLifecycle.h"
@@ -61,6 +62,7 @@ ScenarioRunner::ScenarioRunner(std::ostream& transcript, PictureLoader* realLoad
     ports_.form.onUnload = [this] { Form_Unload(session_); };
     addBuiltInCommands();
     AddDialogCommands(*this);
+    AddExportCommands(*this);
 }
 
 void ScenarioRunner::addBuiltInCommands() {

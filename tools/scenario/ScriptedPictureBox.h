@@ -18,6 +18,12 @@ public:
     float Left() const override { return 120; }
     float Top() const override { return 720; }
 
+    // A size in twips that no picture of whole pixels gives, for tests.
+    void SetTwipSize(float width, float height) {
+        width_ = width;
+        height_ = height;
+    }
+
     // The n-th stroke from now reports that its image cannot be made
     // (script: "fail stroke N").
     void FailStroke(int n) { strokesUntilFailure_ = n; }

@@ -4,7 +4,9 @@
 #include "tools/scenario/Answers.h"
 #include "tools/scenario/ScriptedAboutWindow.h"
 #include "tools/scenario/ScriptedBoxes.h"
+#include "tools/scenario/ScriptedClipboard.h"
 #include "tools/scenario/ScriptedControls.h"
+#include "tools/scenario/ScriptedExportDialogs.h"
 #include "tools/scenario/ScriptedFileDialog.h"
 #include "tools/scenario/ScriptedFileSystem.h"
 #include "tools/scenario/ScriptedForm.h"
@@ -41,6 +43,8 @@ public:
     ScriptedShell shell{transcript};
     ScriptedRegistry registry{transcript};
     ScriptedSystemInfoProgram sysInfo{transcript};
+    ScriptedExportDialogs exportDialogs{transcript, answers};
+    ScriptedClipboard clipboard{transcript};
     Ports ports;
 };
 

@@ -1,0 +1,74 @@
+#include "qt/FinishForm.h"
+
+#include "dialogs/frmFinish.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+namespace sw::qt {
+
+FinishForm::FinishForm(frmFinish& form, QWidget* owner) : QDialog(owner), form_(form) {
+    // A small fixed tool window, with no minimise or maximise button and no task bar entry.
+    setWindowFlags(Qt::Tool | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
+                   Qt::MSWindowsFixedSizeDialogHint);
+    setWindowTitle(frmFinish::kTitle);
+    form_.Form_Load();
+    setupControls();
+    showSelection();
+    setFixedSize(sizeHint());
+}
+
+QRadioButton* FinishForm::addOption(const char* text, void (frmFinish::*handler)()) {
+    auto* option = new QRadioButton(text, this);
+    connect(option, &QRadioButton::toggled, this, [this, handler](bool checked) {
+        if (checked) {
+            (form_.*handler)();
+        }
+    });
+    layout()->addWidget(option);
+    return option;
+}
+
+void FinishForm::setupControls() {
+    auto* layout = new QVBoxLayout(this);
+    auto* lblStatus = new QLabel(QString::fromStdString(form_.lblStatus), this);
+    lblStatus->setAlignment(Qt::AlignCenter);
+    lblStatus->setWordWrap(true);
+    layout->addWidget(lblStatus);
+    optScreen_ = addOption("Yes, in a screen", &frmFinish::optScreen_Click);
+    optFile_ = addOption("Yes, to an HTML file", &frmFinish::optFile_Click);
+    optNo_ = addOption("No thank you!", &frmFinish::optNo_Click);
+    auto* continueButton = new QPushButton("Continue", this);
+    continueButton->setDefault(true);
+    connect(continueButton, &QPushButton::clicked, this, [this] { cmdContinue(); });
+    layout->addWidget(continueButton, 0, Qt::AlignHCenter);
+}
+
+// Shows what loading the form selected, without clicking anything: a stored
+// value other than the three leaves optNo selected and the value as it is.
+void FinishForm::showSelection() {
+    for (QRadioButton* option : {optScreen_, optFile_, optNo_}) {
+        option->blockSignals(true);
+    }
+    optScreen_->setChecked(form_.optScreen);
+    optFile_->setChecked(form_.optFile);
+    optNo_->setChecked(form_.optNo);
+    for (QRadioButton* option : {optScreen_, optFile_, optNo_}) {
+        option->blockSignals(false);
+    }
+}
+
+void FinishForm::cmdContinue() {
+    form_.cmdContinue_Click();
+    accept();
+}
+
+// The close box (and Esc) leave the choice as it stands, as Continue does.
+void FinishForm::reject() {
+    form_.cmdContinue_Click();
+    QDialog::reject();
+}
+
+} // namespace sw::qt

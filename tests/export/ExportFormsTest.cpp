@@ -1,0 +1,82 @@
+// The Qt forms of the two dialogs that close an export, driven by real key
+// and mouse events over their logic objects.
+#include "dialogs/frmFinish.h"
+#include "dialogs/frmHTML.h"
+#include "qt/FinishForm.h"
+#include "qt/HtmlForm.h"
+#include "tools/scenario/ScriptedClipboard.h"
+
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+#include <sstream>
+
+using namespace sw;
+
+namespace {
+
+QPushButton* button(QWidget& form, const QString& text) {
+    for (QPushButton* candidate : form.findChildren<QPushButton*>()) {
+        if (candidate->text() == text) {
+            return candidate;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class ExportFormsTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void finishShowsTheStoredChoiceAndTakesAClickAtOnce() {
+        frmFinish logic;
+        logic.OutputType = "S";
+        qt::FinishForm form(logic, nullptr);
+        form.show();
+        QVERIFY(form.optScreen()->isChecked());
+        QTest::mouseClick(form.optFile(), Qt::LeftButton);
+        QCOMPARE(QString::fromStdString(logic.OutputType), QString("F"));
+        QTest::keyClick(&form, Qt::Key_Return);
+        QCOMPARE(form.result(), int(QDialog::Accepted));
+        QVERIFY(!logic.Loaded());
+        QCOMPARE(QString::fromStdString(logic.OutputType), QString("F"));
+    }
+
+    void finishKeepsAnUnknownValueWhenClosedByItsBox() {
+        frmFinish logic;
+        logic.OutputType = "X";
+        qt::FinishForm form(logic, nullptr);
+        form.show();
+        QVERIFY(form.optNo()->isChecked());
+        form.close();
+        QVERIFY(!logic.Loaded());
+        QCOMPARE(QString::fromStdString(logic.OutputType), QString("X"));
+    }
+
+    void htmlEscapeCopiesTheTextAndStaysOpen() {
+        std::ostringstream log;
+        scripted::Transcript transcript(log);
+        scripted::ScriptedClipboard clipboard(transcript);
+        frmHTML logic(clipboard);
+        logic.rtxtHTML.Text = "<TABLE>\r\n</TABLE>\r\n";
+        qt::HtmlForm form(logic, nullptr);
+        form.show();
+        QTest::keyClick(form.rtxtHTML(), Qt::Key_Escape);
+        QCOMPARE(QString::fromStdString(clipboard.Text()), QString("<TABLE>\r\n</TABLE>\r\n"));
+        QVERIFY(form.isVisible());
+        // Edited text is copied as it stands, with the table's line ends.
+        QTest::keyClick(form.rtxtHTML(), Qt::Key_End, Qt::ControlModifier);
+        QTest::keyClicks(form.rtxtHTML(), "x");
+        QTest::mouseClick(button(form, "Copy to Clipboard"), Qt::LeftButton);
+        QCOMPARE(QString::fromStdString(clipboard.Text()), QString("<TABLE>\r\n</TABLE>\r\nx"));
+        QTest::mouseClick(button(form, "Close"), Qt::LeftButton);
+        QVERIFY(!form.isVisible());
+        QVERIFY(!logic.Loaded());
+    }
+};
+
+QTEST_MAIN(ExportFormsTest)
+#include "ExportFormsTest.moc"

@@ -1,0 +1,118 @@
+#include "export/SectionWriter.h"
+
+#include "common/FileWriteError.h"
+#include "export/ClipContainer.h"
+#include "export/HtmlTable.h"
+#include "export/ImagingSectionEncoder.h"
+#include "export/SectionGrid.h"
+#include "tests/export/RecordingEncoder.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+
+namespace sw {
+namespace {
+
+// A picture whose pixel at (x, y) is 0x00yyxx with x, y below 256.
+Picture coordinatePicture(int width, int height) {
+    std::vector<std::uint8_t> bytes(Picture::Stride(width) * static_cast<std::size_t>(height));
+    for (int y = 0; y < height; ++y) {
+        std::uint8_t* row =
+            bytes.data() + Picture::Stride(width) * static_cast<std::size_t>(height - 1 - y);
+        for (int x = 0; x < width; ++x) {
+            row[3 * x + 1] = static_cast<std::uint8_t>(y);
+            row[3 * x + 2] = static_cast<std::uint8_t>(x);
+        }
+    }
+    return Picture::FromBottomUpBgr(width, height, std::move(bytes));
+}
+
+CutPlan planOf(std::initializer_list<i16> h, std::initializer_list<i16> v) {
+    const OneBasedArray<i16> hLines(h);
+    const OneBasedArray<i16> vLines(v);
+    return BuildSectionGrid({hLines, static_cast<i16>(h.size())},
+                            {vLines, static_cast<i16>(v.size())}, 300 * 15, 200 * 15,
+                            {"out/", "Tile", ".jpg"});
+}
+
+struct Writing {
+    ClipContainer clip{coordinatePicture(300, 200)};
+    std::string format = "JPG";
+    RecordingEncoder encoder;
+    SectionCells cells;
+
+    std::optional<SectionFailure> write(const CutPlan& plan) {
+        SectionOutput output{clip, format, 75, encoder};
+        return WriteSections(output, plan, cells);
+    }
+};
+
+TEST(WriteSections, HandsEachClipOfTheCleanPictureToTheRoadOfItsFormat) {
+    Writing w;
+    ASSERT_FALSE(w.write(planOf({50, 120}, {100})));
+    ASSERT_EQ(w.encoder.calls.size(), 6u);
+    const RecordingEncoder::Call& fourth = w.encoder.calls[3];
+    EXPECT_EQ(fourth.road, "jpg75");
+    EXPECT_EQ(fourth.fileName, "out/Tile4.jpg");
+    EXPECT_EQ(fourth.width, 200);
+    EXPECT_EQ(fourth.height, 70);
+    EXPECT_EQ(fourth.topLeft, 0x003264u); // x 100, y 50
+    EXPECT_EQ(w.cells.UBound(), 6);
+    EXPECT_EQ(w.cells(4), CellText("Tile4.jpg"));
+
+    // Only "BMP" exactly takes the BMP road; any other value is JPG.
+    for (const char* format : {"BMP", "bmp", ""}) {
+        Writing again;
+        again.format = format;
+        again.write(planOf({}, {}));
+        EXPECT_EQ(again.encoder.calls.at(0).road, std::string(format) == "BMP" ? "bmp" : "jpg75");
+    }
+}
+
+TEST(WriteSections, StopsAtTheFirstFailureWhereverItStands) {
+    for (const std::size_t failing : {1u, 3u, 6u}) {
+        Writing w;
+        w.encoder.failAt = failing;
+        const std::optional<SectionFailure> failure = w.write(planOf({50, 120}, {100}));
+        ASSERT_TRUE(failure);
+        EXPECT_EQ(failure->kind, SectionFailure::Kind::Encoder);
+        EXPECT_EQ(w.encoder.calls.size(), failing) << "no section after the failed one is tried";
+        EXPECT_EQ(w.cells.UBound(), static_cast<int>(failing) - 1);
+    }
+}
+
+TEST(WriteSections, SectionsWithoutAreaGetAnEmptyCellAndNoFile) {
+    Writing w;
+    // Two lines at 50 and a column beyond the right edge: sections 2, 3, 4 and 6
+    // have nothing to cut; section 5 is cut to the picture's edge.
+    ASSERT_FALSE(w.write(planOf({50, 50}, {100, 400})));
+    std::vector<std::string> written;
+    for (const RecordingEncoder::Call& call : w.encoder.calls) {
+        written.push_back(call.fileName + " " + std::to_string(call.width) + "x" +
+                          std::to_string(call.height));
+    }
+    EXPECT_EQ(written,
+              (std::vector<std::string>{"out/Tile1.jpg 100x50", "out/Tile2.jpg 200x50",
+                                        "out/Tile7.jpg 100x150", "out/Tile8.jpg 200x150"}));
+    ASSERT_EQ(w.cells.UBound(), 9);
+    EXPECT_EQ(w.cells(3), EmptyCellText());
+    EXPECT_EQ(w.cells(9), EmptyCellText());
+    EXPECT_EQ(w.cells(8), CellText("Tile8.jpg"));
+}
+
+TEST(ImagingSectionEncoder, AnEncoderFailureIsAFailedWriteAndLeavesNoFile) {
+    const std::string path =
+        (std::filesystem::temp_directory_path() / "slicewright-refused.jpg").string();
+    std::filesystem::remove(path);
+    ImagingSectionEncoder encoder;
+    EXPECT_FALSE(encoder.SaveJpg(Picture::Filled(8, 8, 0x336699), path, 0));
+    EXPECT_FALSE(std::filesystem::exists(path));
+    EXPECT_TRUE(encoder.SaveJpg(Picture::Filled(8, 8, 0x336699), path, 90));
+    EXPECT_TRUE(std::filesystem::exists(path));
+    std::filesystem::remove(path);
+    EXPECT_THROW(encoder.SaveBmp(Picture::Filled(8, 8, 0), "/nonexistent-folder/x.bmp"),
+                 FileWriteError);
+}
+
+} // namespace
+} // namespace sw

@@ -1,0 +1,183 @@
+#!/bin/bash
+# Checks an export from outside the program: the scenario runner cuts a real
+# picture along an uneven grid (drawing the lines in red on the working copy),
+# then ImageMagick decodes every section and compares it with its rectangle
+# of the clean picture, and headless Chromium renders the HTML table beside
+# the BMP sections, which must give the picture back pixel for pixel; so
+# must a table whose grid has sections without area, kept as empty cells.
+#
+#   check-export-output.sh files|browser RUNNER PICTURE WORKDIR
+set -euo pipefail
+
+mode=$1
+runner=$2
+picture=$3
+work=$4
+
+convert=/usr/bin/convert
+compare=/usr/bin/compare
+identify=/usr/bin/identify
+chromium=/usr/bin/chromium
+
+fail() {
+    echo "FAIL: $*" >&2
+    exit 1
+}
+
+for tool in "$convert" "$compare" "$identify"; do
+    [[ -x $tool ]] || fail "$tool is missing (package imagemagick)"
+done
+if [[ $mode == browser ]]; then
+    [[ -x $chromium ]] || fail "$chromium is missing (package chromium)"
+fi
+
+# The grid, uneven on purpose: columns of 13, 87, 122 and 78 pixels, rows of 37, 83 and 80.
+hlines=(37 120)
+vlines=(13 100 222)
+read -r width height < <("$identify" -format '%w %h\n' "$picture")
+
+rm -rf "$work"
+mkdir -p "$work/bmp" "$work/jpg" "$work/degenerate"
+cd "$work"
+
+# draw_lines DIRECTION POSITIONS...: clicks on the picture in that draw mode.
+draw_lines() {
+    local direction=$1
+    shift
+    echo "event mnu${direction}Line_Click"
+    for position in "$@"; do
+        echo "event picActual_MouseMove $position $position"
+        echo event picActual_Click
+    done
+}
+
+# export_to NAME [ANSWER]: one run into NAME, the table in a file, the lines kept;
+# ANSWER goes to the question about sections without area.
+export_to() {
+    echo "answer save \"$1\""
+    [[ -n ${2:-} ]] && echo "answer box $2"
+    echo 'answer finish F'
+    echo 'answer box No'
+    echo event mnuCreate_Click
+}
+
+opening() {
+    echo 'store HTMLOut "N"'
+    echo start
+    echo "answer open \"$picture\""
+    echo event mnuOPen_Click
+    echo event mnuRed_Click
+}
+
+{
+    opening
+    draw_lines Horizontal "${hlines[@]}"
+    draw_lines Vertical "${vlines[@]}"
+    export_to bmp/Tile.bmp
+    export_to jpg/Tile.jpg
+} > export.scn
+"$runner" export.scn > transcript.txt || fail "the scenario runner stopped: $(tail -3 transcript.txt)"
+
+# Two lines on one place, a line at 0 and one past the right edge: sections
+# without area, whose empty cells must take no room in the table.
+{
+    opening
+    draw_lines Horizontal 80 80 0
+    draw_lines Vertical 100 $((width + 20))
+    export_to degenerate/Tile.bmp Yes
+} > degenerate.scn
+"$runner" degenerate.scn > degenerate.txt || fail "the scenario runner stopped: $(tail -3 degenerate.txt)"
+
+# Edges of the grid, computed here independently of the program.
+xs=(0 "${vlines[@]}" "$width")
+ys=(0 "${hlines[@]}" "$height")
+
+# PSNR of one picture against another in hundredths of a dB (99999 when equal).
+psnr() {
+    local db
+    db=$("$compare" -metric PSNR "$1" "$2" null: 2>&1 || true)
+    [[ $db == inf ]] && { echo 99999; return; }
+    awk -v db="$db" 'BEGIN { printf "%d\n", db * 100 }'
+}
+
+# A start one pixel off, still inside the picture.
+nudged() {
+    local start=$1 size=$2 limit=$3
+    if ((start + size < limit)); then echo $((start + 1)); else echo $((start - 1)); fi
+}
+
+# A JPG section is close to its rectangle, and closer to it than to the
+# rectangle one pixel to the side or below: so it is neither drawn on nor misplaced.
+check_jpg() {
+    local file=$1 clean=$2 x=$3 y=$4 w=$5 h=$6
+    local own
+    own=$(psnr "$file" "$clean")
+    ((own >= 2800)) || fail "$file: PSNR $((own / 100)) dB is below 28"
+    "$convert" "$picture" -crop "${w}x${h}+$(nudged "$x" "$w" "$width")+${y}" +repage beside.png
+    "$convert" "$picture" -crop "${w}x${h}+${x}+$(nudged "$y" "$h" "$height")" +repage below.png
+    ((own > $(psnr "$file" beside.png))) || fail "$file matches the rectangle beside it better"
+    ((own > $(psnr "$file" below.png))) || fail "$file matches the rectangle below it better"
+    # A red line along the top row or left column would show there first.
+    "$convert" "$file" -crop "${w}x1+0+0" +repage top.png
+    "$convert" "$clean" -crop "${w}x1+0+0" +repage cleantop.png
+    (($(psnr top.png cleantop.png) >= 2400)) || fail "$file: its top row looks drawn on"
+    "$convert" "$file" -crop "1x${h}+0+0" +repage left.png
+    "$convert" "$clean" -crop "1x${h}+0+0" +repage cleanleft.png
+    (($(psnr left.png cleanleft.png) >= 2400)) || fail "$file: its left column looks drawn on"
+}
+
+check_sections() {
+    local number=0
+    for ((r = 0; r < ${#ys[@]} - 1; r++)); do
+        for ((c = 0; c < ${#xs[@]} - 1; c++)); do
+            number=$((number + 1))
+            local x=${xs[c]} y=${ys[r]}
+            local w=$((xs[c + 1] - x)) h=$((ys[r + 1] - y))
+            "$convert" "$picture" -crop "${w}x${h}+${x}+${y}" +repage "clean$number.png"
+            local size
+            size=$("$identify" -format '%wx%h' "bmp/Tile$number.bmp") || fail "bmp/Tile$number.bmp does not decode"
+            [[ $size == "${w}x${h}" ]] || fail "Tile$number.bmp is $size, not ${w}x${h}"
+            local differing
+            differing=$("$compare" -metric AE "bmp/Tile$number.bmp" "clean$number.png" null: 2>&1 || true)
+            [[ $differing == 0 ]] || fail "Tile$number.bmp differs from its rectangle in $differing pixels"
+            size=$("$identify" -format '%wx%h' "jpg/Tile$number.jpg") || fail "jpg/Tile$number.jpg does not decode"
+            [[ $size == "${w}x${h}" ]] || fail "Tile$number.jpg is $size, not ${w}x${h}"
+            check_jpg "jpg/Tile$number.jpg" "clean$number.png" "$x" "$y" "$w" "$h"
+        done
+    done
+    echo "checked $number BMP and $number JPG sections"
+}
+
+# render_table HTML: the table as the browser shows it, cut to the picture's size.
+render_table() {
+    local html=$1 shown=$2
+    local profile
+    profile=$(mktemp -d)
+    # The page's body keeps its default margin of 8 pixels; the table starts there.
+    local margin=8
+    "$chromium" --headless --no-sandbox --disable-gpu --disable-quic --no-first-run \
+        --disable-background-networking --disable-component-update --disable-sync \
+        --user-data-dir="$profile" --hide-scrollbars --force-device-scale-factor=1 \
+        --window-size=$((width + 2 * margin)),$((height + 2 * margin)) \
+        --screenshot="$work/screen.png" "file://$work/$html" > chromium.log 2>&1 || true
+    rm -rf "$profile"
+    [[ -s screen.png ]] || fail "chromium made no screenshot of $html: $(tail -3 chromium.log)"
+    "$convert" screen.png -crop "${width}x${height}+${margin}+${margin}" +repage "$shown"
+    rm -f screen.png
+}
+
+check_browser() {
+    for html in bmp/Tile.html degenerate/Tile.html; do
+        render_table "$html" shown.png
+        local differing
+        differing=$("$compare" -metric AE shown.png "$picture" null: 2>&1 || true)
+        [[ $differing == 0 ]] || fail "$html renders $differing pixels unlike the picture"
+        echo "$html renders the picture pixel for pixel"
+    done
+}
+
+case $mode in
+files) check_sections ;;
+browser) check_browser ;;
+*) fail "unknown mode $mode" ;;
+esac

@@ -1,0 +1,88 @@
+#include "tools/scenario/ExportCommands.h"
+
+#include "common/AtomicFile.h"
+#include "common/QuotedText.h"
+#include "common/Text.h"
+#include "tools/scenario/ScenarioRunner.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+
+namespace sw::scripted {
+namespace {
+
+namespace fs = std::filesystem;
+
+void expectArguments(const ScenarioRunner::Words& words, std::size_t count, const char* usage) {
+    if (words.size() != count + 1) {
+        throw ScriptError(std::string("usage: ") + usage);
+    }
+}
+
+void makeFolder(ScenarioRunner&, const ScenarioRunner::Words& w) {
+    expectArguments(w, 1, "folder \"path\"");
+    fs::create_directories(w[1]);
+}
+
+void makeFile(ScenarioRunner&, const ScenarioRunner::Words& w) {
+    expectArguments(w, 2, "file \"path\" \"text\"");
+    std::ofstream out(w[1], std::ios::binary | std::ios::trunc);
+    out << w[2];
+    if (!out) {
+        throw ScriptError("cannot make the file " + w[1]);
+    }
+}
+
+void showFile(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
+    expectArguments(w, 1, "show \"path\"");
+    std::string contents;
+    std::string reason;
+    if (!ReadWholeFile(w[1], contents, reason)) {
+        runner.Print("file " + QuoteText(w[1]) + " cannot be read: " + reason);
+        return;
+    }
+    runner.Print("file " + QuoteText(w[1]) + " = " + QuoteText(contents));
+}
+
+void listFiles(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
+    expectArguments(w, 1, "files \"folder\"");
+    std::vector<std::string> names;
+    for (const fs::directory_entry& entry : fs::directory_iterator(w[1])) {
+        if (entry.is_regular_file()) {
+            names.push_back(entry.path().filename().string());
+        }
+    }
+    std::sort(names.begin(), names.end());
+    std::string line = "files " + QuoteText(w[1]) + ":";
+    for (const std::string& name : names) {
+        line += " " + name;
+    }
+    runner.Print(line);
+}
+
+// Decodes a written file through the picture loader (which logs its size).
+// A lossless file also shows its top-left pixel; a JPG's pixels depend on
+// the codec's build, so a transcript does not hold them.
+void showImage(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
+    expectArguments(w, 1, "image \"path\"");
+    const LoadedPicture loaded = runner.Ports().loader.LoadPicture(w[1]);
+    if (loaded.ok() && !EndsWith(UpperCase(w[1]), ".JPG")) {
+        char pixel[16];
+        std::snprintf(pixel, sizeof pixel, "0x%06X", loaded.picture.PixelAt(0, 0));
+        runner.Print("  top-left pixel " + std::string(pixel));
+    }
+}
+
+} // namespace
+
+void AddExportCommands(ScenarioRunner& runner) {
+    runner.AddCommand("folder", makeFolder);
+    runner.AddCommand("file", makeFile);
+    runner.AddCommand("show", showFile);
+    runner.AddCommand("files", listFiles);
+    runner.AddCommand("image", showImage);
+}
+
+} // namespace sw::scripted
