@@ -1,5 +1,6 @@
 #include "qt/image/QtPictureLoader.h"
 
+#include "imaging/PlainBmpReader.h"
 #include "qt/image/PictureFileCheck.h"
 
 #include <QFileInfo>
@@ -86,12 +87,31 @@ Picture toPicture(QImage bgr) {
     return Picture::FromBottomUpBgr(width, height, std::move(bytes));
 }
 
+// A BMP whose pixels already lie as a picture keeps them is read in one go:
+// the most common BMP opens several times faster, with half the memory.
+LoadedPicture loadPlainBmp(const std::string& path, const PlainBmp& layout) {
+    if (const std::optional<std::string> problem =
+            sizeProblem(QSize(layout.width, layout.height))) {
+        return failure(*problem);
+    }
+    std::optional<Picture> picture = ReadPlainBmp(path, layout);
+    if (!picture) {
+        return failure("the file is incomplete: it ends before the picture does");
+    }
+    LoadedPicture result;
+    result.picture = std::move(*picture);
+    return result;
+}
+
 } // namespace
 
 LoadedPicture QtPictureLoader::LoadPicture(const std::string& path) {
     const QString name = QString::fromStdString(path);
     if (const std::optional<std::string> problem = fileProblem(QFileInfo(name))) {
         return failure(*problem);
+    }
+    if (const std::optional<PlainBmp> plain = ProbePlainBmp(path)) {
+        return loadPlainBmp(path, *plain);
     }
     allowPicturesUpToTheBudget();
     QImageReader reader(name);
