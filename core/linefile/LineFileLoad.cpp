@@ -21,12 +21,9 @@ bool mayErase(Session& session) {
 }
 
 std::string askFileName(Session& session) {
-    FileDialog& dlg = session.ports.dlgPic;
-    dlg.FileName.clear();
-    dlg.InitDir = session.ports.app.Path;
-    dlg.Filter = kLineFileFilter;
-    dlg.ShowOpen();
-    return dlg.FileName;
+    PrepareLineFileDialog(session);
+    session.ports.dlgPic.ShowOpen();
+    return session.ports.dlgPic.FileName;
 }
 
 void tell(Session& session, const std::string& title, const std::string& text, BoxIcon icon) {

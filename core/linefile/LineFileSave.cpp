@@ -8,15 +8,10 @@
 namespace sw {
 namespace {
 
-// The start folder is always the program's folder: line files are kept
-// apart from the pictures and the sections.
 std::string askFileName(Session& session) {
-    FileDialog& dlg = session.ports.dlgPic;
-    dlg.FileName.clear();
-    dlg.InitDir = session.ports.app.Path;
-    dlg.Filter = kLineFileFilter;
-    dlg.ShowSave();
-    return dlg.FileName;
+    PrepareLineFileDialog(session);
+    session.ports.dlgPic.ShowSave();
+    return session.ports.dlgPic.FileName;
 }
 
 bool mayOverwrite(Session& session, const std::string& trimmedName) {
@@ -63,6 +58,13 @@ void SaveLineFile(Session& session) {
 
 void mnuSaveLines_Click(Session& session) {
     SaveLineFile(session);
+}
+
+void PrepareLineFileDialog(Session& session) {
+    FileDialog& dlg = session.ports.dlgPic;
+    dlg.FileName.clear();
+    dlg.InitDir = session.ports.app.Path;
+    dlg.Filter = kLineFileFilter;
 }
 
 } // namespace sw

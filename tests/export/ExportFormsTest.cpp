@@ -4,6 +4,7 @@
 #include "dialogs/frmHTML.h"
 #include "qt/FinishForm.h"
 #include "qt/HtmlForm.h"
+#include "tests/qt/FindWidgets.h"
 #include "tools/scenario/ScriptedClipboard.h"
 
 #include <QPlainTextEdit>
@@ -13,19 +14,6 @@
 #include <sstream>
 
 using namespace sw;
-
-namespace {
-
-QPushButton* button(QWidget& form, const QString& text) {
-    for (QPushButton* candidate : form.findChildren<QPushButton*>()) {
-        if (candidate->text() == text) {
-            return candidate;
-        }
-    }
-    return nullptr;
-}
-
-} // namespace
 
 class ExportFormsTest : public QObject {
     Q_OBJECT
@@ -70,9 +58,9 @@ private slots:
         // Edited text is copied as it stands, with the table's line ends.
         QTest::keyClick(form.rtxtHTML(), Qt::Key_End, Qt::ControlModifier);
         QTest::keyClicks(form.rtxtHTML(), "x");
-        QTest::mouseClick(button(form, "Copy to Clipboard"), Qt::LeftButton);
+        QTest::mouseClick(test::FindButton(form, "Copy to Clipboard"), Qt::LeftButton);
         QCOMPARE(QString::fromStdString(clipboard.Text()), QString("<TABLE>\r\n</TABLE>\r\nx"));
-        QTest::mouseClick(button(form, "Close"), Qt::LeftButton);
+        QTest::mouseClick(test::FindButton(form, "Close"), Qt::LeftButton);
         QVERIFY(!form.isVisible());
         QVERIFY(!logic.Loaded());
     }

@@ -5,6 +5,7 @@
 #include "qt/AboutForm.h"
 #include "qt/JpgCompForm.h"
 #include "session/Session.h"
+#include "tests/qt/FindWidgets.h"
 #include "tools/scenario/ScriptedPorts.h"
 
 #include <QLabel>
@@ -14,19 +15,6 @@
 #include <sstream>
 
 using namespace sw;
-
-namespace {
-
-QPushButton* button(QWidget& form, const QString& text) {
-    for (QPushButton* candidate : form.findChildren<QPushButton*>()) {
-        if (candidate->text() == text) {
-            return candidate;
-        }
-    }
-    return nullptr;
-}
-
-} // namespace
 
 class DialogFormsTest : public QObject {
     Q_OBJECT
@@ -47,7 +35,7 @@ private slots:
         QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
         QTest::keyClick(box, Qt::Key_Backspace);
         QCOMPARE(box->text(), QString("7"));
-        QTest::mouseClick(button(form, "OK"), Qt::LeftButton);
+        QTest::mouseClick(test::FindButton(form, "OK"), Qt::LeftButton);
         QVERIFY(logic.Closed());
         QCOMPARE(session.state.JPGComp, 7);
     }
@@ -80,7 +68,7 @@ private slots:
             versionShown = versionShown || label->text() == "Version 2.5.0";
         }
         QVERIFY(versionShown);
-        QTest::mouseClick(button(form, "OK"), Qt::LeftButton);
+        QTest::mouseClick(test::FindButton(form, "OK"), Qt::LeftButton);
         QVERIFY(okRaised);
     }
 };
