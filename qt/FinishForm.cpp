@@ -20,11 +20,11 @@ FinishForm::FinishForm(frmFinish& form, QWidget* owner) : QDialog(owner), form_(
     setFixedSize(sizeHint());
 }
 
-QRadioButton* FinishForm::addOption(const char* text, void (frmFinish::*handler)()) {
+QRadioButton* FinishForm::addOption(const char* text, std::function<void()> click) {
     auto* option = new QRadioButton(text, this);
-    connect(option, &QRadioButton::toggled, this, [this, handler](bool checked) {
+    connect(option, &QRadioButton::toggled, this, [click = std::move(click)](bool checked) {
         if (checked) {
-            (form_.*handler)();
+            click();
         }
     });
     layout()->addWidget(option);
@@ -37,9 +37,9 @@ void FinishForm::setupControls() {
     lblStatus->setAlignment(Qt::AlignCenter);
     lblStatus->setWordWrap(true);
     layout->addWidget(lblStatus);
-    optScreen_ = addOption("Yes, in a screen", &frmFinish::optScreen_Click);
-    optFile_ = addOption("Yes, to an HTML file", &frmFinish::optFile_Click);
-    optNo_ = addOption("No thank you!", &frmFinish::optNo_Click);
+    optScreen_ = addOption("Yes, in a screen", [this] { form_.optScreen_Click(); });
+    optFile_ = addOption("Yes, to an HTML file", [this] { form_.optFile_Click(); });
+    optNo_ = addOption("No thank you!", [this] { form_.optNo_Click(); });
     auto* continueButton = new QPushButton("Continue", this);
     continueButton->setDefault(true);
     connect(continueButton, &QPushButton::clicked, this, [this] { cmdContinue(); });

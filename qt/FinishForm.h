@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <functional>
 
 class QRadioButton;
 
@@ -25,7 +26,7 @@ protected:
 
 private:
     void setupControls();
-    QRadioButton* addOption(const char* text, void (frmFinish::*handler)());
+    QRadioButton* addOption(const char* text, std::function<void()> click);
     void showSelection();
     void cmdContinue();
 
