@@ -14,6 +14,7 @@ public:
     SizedPictureBox(float width, float height) : width_(width), height_(height) {}
     void SetPicture(const Picture&) override {}
     bool Line(int, int, int, int, Color) override { return true; }
+    bool HasPicture() const override { return true; }
     float Width() const override { return width_; }
     float Height() const override { return height_; }
     float Left() const override { return 0; }

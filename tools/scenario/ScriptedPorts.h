@@ -33,7 +33,7 @@ public:
     ScriptedPictureBox picActual{transcript};
     ScriptedPictureLoader loader;
     ScriptedControls controls{transcript};
-    ScriptedForm form{transcript};
+    ScriptedForm form{transcript, picActual};
     ScriptedSettingsStore settings{transcript};
     ScriptedFileSystem files{transcript};
     ScriptedQualityDialog jpgCompDialog{transcript, answers};
