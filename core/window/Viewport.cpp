@@ -27,23 +27,31 @@ void keepLeastSize(FormWindow& form, float minWidth) {
     }
 }
 
-// Takes the height down in steps until it is below the screen's allowance.
-// A window that will not get lower ends the loop, and a screen too low for
-// the least height is left to that rule: otherwise the cut and the least
-// height would undo each other through the nested resize events without end.
+float screenLimit(const FormWindow& form) {
+    return form.Screen().Height - kScreenAllowance;
+}
+
+// One step lower. False when the step would go below the least height, which
+// on a very low screen would undo the cut through the nested resize events
+// without end, or when the window did not get lower.
+bool stepLower(FormWindow& form) {
+    const float before = form.Bounds().Height;
+    if (before - kHeightStep < kLeastHeight) {
+        return false;
+    }
+    form.SetHeight(before - kHeightStep);
+    return form.Bounds().Height < before;
+}
+
+// Takes a window higher than the screen allows down in steps until it is
+// below that limit. The first test is strict and the loop's is not: a window
+// exactly at the limit is left alone, but a cut ends strictly below it.
 void cutDownToScreen(FormWindow& form) {
-    const float limit = form.Screen().Height - kScreenAllowance;
-    if (form.WindowState() == kWindowMaximised || !(limit < form.Bounds().Height) ||
-        limit <= kLeastHeight) {
+    if (form.WindowState() == kWindowMaximised || !(screenLimit(form) < form.Bounds().Height)) {
         return;
     }
     form.SetTop(kTopAfterCut);
-    while (!(form.Screen().Height - kScreenAllowance > form.Bounds().Height)) {
-        const float before = form.Bounds().Height;
-        form.SetHeight(before - kHeightStep);
-        if (!(form.Bounds().Height < before)) {
-            break;
-        }
+    while (!(screenLimit(form) > form.Bounds().Height) && stepLower(form)) {
     }
     form.Refresh();
 }
