@@ -168,9 +168,10 @@ void MainWindow::setupMenus() {
 
 void MainWindow::setupToolbar() {
     // Along the top of the client area, over it rather than beside it, so
-    // that showing it moves nothing.
+    // that showing it moves nothing; it covers what is scrolled under it.
     tlbrMain_ = new QToolBar("Toolbar", area_);
     tlbrMain_->setMovable(false);
+    tlbrMain_->setAutoFillBackground(true);
     int count = 0;
     const ToolbarEntry* entries = ToolbarEntries(count);
     for (int i = 0; i < count; ++i) {
