@@ -2,6 +2,7 @@
 // the logic's scroll bars and moves carried out by Qt widgets.
 #include "imaging/Picture.h"
 #include "qt/MainWindow.h"
+#include "qt/QtScrollBar.h"
 #include "window/PictureOpening.h"
 
 #include <QApplication>
@@ -134,6 +135,55 @@ private slots:
         QCOMPARE(state.hLineCount, static_cast<i16>(1));
         QCOMPARE(state.hLines(1), static_cast<i16>(103));
         QCOMPARE(canvas.Image().pixelColor(500, 103), QColor(0, 0, 0));
+    }
+
+    // The form's size goes out and comes back in twips, frame and menu bar
+    // included, whatever the menu bar's real height.
+    void theFormsSizeReadsBackAsWritten() {
+        SizedLoader loader(400, 300);
+        qt::MainWindow window(loader, "/opt/slicewright");
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        FormWindow& form = window.CurrentSession().ports.form;
+        QCOMPARE(form.Bounds().Width, 3525.0f);
+        QCOMPARE(form.Bounds().Height, 6015.0f);
+        form.SetWidth(7005);
+        form.SetHeight(4560);
+        QCOMPARE(form.Bounds().Width, 7005.0f);
+        QCOMPARE(form.Bounds().Height, 4560.0f);
+        const QSize screen = window.screen()->geometry().size();
+        QCOMPARE(form.Screen().Height, static_cast<float>(screen.height() * 15));
+    }
+
+    // Minimising keeps the size in Qt, so no resize event comes; the view
+    // must still go back to the picture's corner.
+    void minimisingBringsBothBarsToZero() {
+        SizedLoader loader(1200, 1000);
+        qt::MainWindow window(loader, "/opt/slicewright");
+        open(window);
+        window.VScrollBar().setValue(450);
+        window.setWindowState(Qt::WindowMinimized);
+        QApplication::processEvents();
+        QCOMPARE(window.VScrollBar().value(), 0);
+        QCOMPARE(window.Picture().pos(), QPoint(8, 48));
+    }
+
+    // Qt would pull Min down to a Max below it and move the value there,
+    // sliding the picture the wrong way; the bar must stay at Min instead.
+    void aBarWithMaxBelowMinStaysAtMin() {
+        QScrollBar widget(Qt::Vertical);
+        qt::QtScrollBar bar(&widget, ControlKind::VScrollBar, "vscroll");
+        bar.SetMin(0);
+        bar.SetMax(-45);
+        bar.SetValue(-30);
+        QCOMPARE(bar.Value(), 0);
+        QCOMPARE(bar.Min(), 0);
+        QCOMPARE(bar.Max(), -45);
+        bar.SetMax(300);
+        bar.SetValue(150);
+        QCOMPARE(bar.Value(), 150);
+        bar.SetMax(100);
+        QCOMPARE(bar.Value(), 100);
     }
 
 private:
