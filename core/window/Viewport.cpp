@@ -6,14 +6,21 @@
 namespace sw {
 namespace {
 
+// The window's least height; a window higher than the screen less the
+// allowance is taken down in steps and moved to the screen's top.
 constexpr float kLeastHeight = 1680;
 constexpr float kScreenAllowance = 500;
 constexpr float kHeightStep = 300;
 constexpr float kTopAfterCut = 1;
+// What the vertical bar's test adds below the picture.
 constexpr float kVerticalBarAllowance = 1260;
+// What frame, caption and menu bar take of the window's height, and how far
+// the vertical bar and the corner (and, a little less, the horizontal bar)
+// stand in from the window's right edge.
 constexpr float kFrameHeight = 690;
 constexpr float kRightInset = 110;
 constexpr float kHScrollRightInset = 100;
+// One step of a bar, for an arrow and for the trough alike.
 constexpr float kScrollStepPixels = 10;
 
 void keepLeastSize(FormWindow& form, float minWidth) {
