@@ -95,6 +95,12 @@ void ScriptedForm::UserResize(float width, float height) {
     });
 }
 
+void ScriptedForm::UserMove(float left, float top) {
+    transcript_.Line("user move " + FormatSingle(left) + " " + FormatSingle(top));
+    normal_.Left = left;
+    normal_.Top = top;
+}
+
 void ScriptedForm::UserWindowState(int state) {
     transcript_.Line("user windowstate " + std::to_string(state));
     resizing([this, state] { windowState_ = state; });

@@ -44,6 +44,8 @@ public:
 
     // The user drags the window's edges to this outer size.
     void UserResize(float width, float height);
+    // The user moves the window to this place on the screen.
+    void UserMove(float left, float top);
     // The user minimises (1), maximises (2) or restores (0) the window.
     void UserWindowState(int state);
     // Screen size in twips ("screen W H"); 1024 x 768 pixels by default.

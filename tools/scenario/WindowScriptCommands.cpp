@@ -95,6 +95,10 @@ void AddWindowCommands(ScenarioRunner& runner) {
         expectCount(w, 3, "resize WIDTH HEIGHT");
         r.Ports().form.UserResize(twips(w[1]), twips(w[2]));
     });
+    runner.AddCommand("move", [](ScenarioRunner& r, const Words& w) {
+        expectCount(w, 3, "move LEFT TOP");
+        r.Ports().form.UserMove(twips(w[1]), twips(w[2]));
+    });
     runner.AddCommand("windowstate", [](ScenarioRunner& r, const Words& w) {
         expectCount(w, 2, "windowstate 0|1|2");
         r.Ports().form.UserWindowState(number(w[1]));
