@@ -4,6 +4,8 @@
 #include "qt/TwipGeometry.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
+#include <QEvent>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QScreen>
@@ -15,8 +17,43 @@ namespace {
 constexpr float kFrameWidth = 2 * 60;
 constexpr float kFrameHeight = 630 + 60;
 
+// How long a change of state may take the window manager.
+constexpr qint64 kStateChangeMillis = 1000;
+
 float twips(int pixels) {
     return static_cast<float>(pixels) * kTwipsPerPixel;
+}
+
+// Notes whether the watched window has had a resize event.
+class ResizeWatch : public QObject {
+public:
+    explicit ResizeWatch(QWidget* window) : window_(window) { window_->installEventFilter(this); }
+    ~ResizeWatch() override { window_->removeEventFilter(this); }
+    bool Seen() const { return seen_; }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        seen_ = seen_ || (watched == window_ && event->type() == QEvent::Resize);
+        return false;
+    }
+
+private:
+    QWidget* window_;
+    bool seen_ = false;
+};
+
+// A window manager carries out a change of state some time after the
+// request. Waiting for its resize keeps the order the logic counts on:
+// Form_Resize has run before the write returns, and a size written next is
+// not undone by the state change arriving late.
+void awaitResize(QWidget* window) {
+    if (!window->isVisible()) {
+        return;
+    }
+    const ResizeWatch watch(window);
+    QElapsedTimer timer;
+    timer.start();
+    while (!watch.Seen() && timer.elapsed() < kStateChangeMillis) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 20);
+    }
 }
 
 } // namespace
@@ -75,7 +112,10 @@ void QtFormWindow::SetWindowState(int state) {
     } else if (state == kWindowMaximised) {
         states |= Qt::WindowMaximized;
     }
-    form_->setWindowState(states);
+    if (states != form_->windowState()) {
+        form_->setWindowState(states);
+        awaitResize(form_);
+    }
 }
 
 void QtFormWindow::Refresh() {
