@@ -155,6 +155,25 @@ private slots:
         QCOMPARE(form.Screen().Height, static_cast<float>(screen.height() * 15));
     }
 
+    // A picture that fits the screen takes a maximised window back to
+    // normal at the picture's size; a window manager's late restore must
+    // not undo that size.
+    void openingInAMaximisedWindowKeepsThePicturesSize() {
+        SizedLoader loader(400, 300);
+        qt::MainWindow window(loader, "/opt/slicewright");
+        open(window);
+        // Maximised by the user, which the window manager carries out later.
+        window.showMaximized();
+        QTest::qWait(500);
+        mnuLastCut_Click(window.CurrentSession());
+        QTest::qWait(500);
+        const TwipRect bounds = window.CurrentSession().ports.form.Bounds();
+        QVERIFY(!window.isMaximized());
+        QCOMPARE(bounds.Width, 120.0f + 6000 + 240 + 255);
+        QCOMPARE(bounds.Height, 720.0f + 4500 + 240 + 300 + 255);
+        QCOMPARE(window.CurrentSession().state.picOriginY, 720);
+    }
+
     // Minimising keeps the size in Qt, so no resize event comes; the view
     // must still go back to the picture's corner.
     void minimisingBringsBothBarsToZero() {
