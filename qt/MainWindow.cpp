@@ -8,23 +8,19 @@
 #include "window/MenuTree.h"
 #include "window/PointerFeedback.h"
 #include "window/Toolbar.h"
+#include "window/Viewport.h"
 
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMenuBar>
-#include <QScrollArea>
+#include <QResizeEvent>
+#include <QScrollBar>
 #include <QStyle>
 #include <QToolBar>
 #include <algorithm>
 
 namespace sw::qt {
 namespace {
-
-// The stored layout in pixels (15 twips each): the client area, the label
-// and the picture's place within it.
-constexpr QSize kClientSize(227, 355);
-constexpr QPoint kLabelPlace(8, 32);
-constexpr QPoint kPicturePlace(8, 48);
 
 bool isCheckable(Item item) {
     if (item == Item::mnuHorizontalLine || item == Item::mnuVerticalLine) {
@@ -55,11 +51,10 @@ MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath)
                                                      sysInfo_} {
     aboutWindow_.raise = [this](void (frmAbout::*event)()) { RaiseAboutEvent(session_, event); };
     setWindowTitle("Slicewright");
-    setupPictureArea();
     setupMenus();
-    setupToolbar();
+    setupClientArea();
     connectPicture();
-    resize(kClientSize.width(), kClientSize.height() + menuBar()->sizeHint().height());
+    placeStoredLayout();
     Form_Load(session_);
 }
 
@@ -69,23 +64,76 @@ void MainWindow::run(void (*handler)(Session&)) {
     }
 }
 
-void MainWindow::setupPictureArea() {
-    scroll_ = new QScrollArea(this);
-    scroll_->setFrameShape(QFrame::NoFrame);
-    area_ = new QWidget;
+// The client area holds its controls at places in twips, as the logic moves
+// them: no layout and no scrolling container. Made in this order, the later
+// stand above the earlier: the picture, its label, the toolbar, the bars and
+// the corner piece, so that the toolbar covers a picture scrolled up, and a
+// bar's arrow stays usable where the bar reaches the toolbar.
+void MainWindow::setupClientArea() {
+    area_ = new QWidget(this);
     area_->setMouseTracking(true);
     area_->installEventFilter(this);
-    lblMousePos_ = new QLabel("Position: ", area_);
-    lblMousePos_->move(kLabelPlace);
-    lblMousePos_->hide();
+    setCentralWidget(area_);
     picActual_->setParent(area_);
-    picActual_->move(kPicturePlace);
     picActual_->hide();
-    area_->resize(kClientSize);
-    scroll_->setWidget(area_);
-    setCentralWidget(scroll_);
+    lblMousePos_ = new QLabel("Position: ", area_);
+    lblMousePos_->hide();
+    mousePos_ =
+        std::make_unique<QtPlaced<FormControl>>(lblMousePos_, ControlKind::Label, "lblMousePos");
+    setupToolbar();
+    setupScrollBars();
+    form_.Attach(*hscroll_, *vscroll_, *picResize_,
+                 {vscroll_.get(), hscroll_.get(), picResize_.get(), toolbar_.get(), picActual_,
+                  mousePos_.get()});
     controls_.Register(Item::picActual, picActual_);
     controls_.Register(Item::lblMousePos, lblMousePos_);
+}
+
+void MainWindow::setupScrollBars() {
+    vscrollBar_ = new QScrollBar(Qt::Vertical, area_);
+    hscrollBar_ = new QScrollBar(Qt::Horizontal, area_);
+    cornerWidget_ = new QWidget(area_);
+    cornerWidget_->setAutoFillBackground(true);
+    cornerWidget_->resize(PixelsOf(255), PixelsOf(255));
+    for (QWidget* widget :
+         {static_cast<QWidget*>(vscrollBar_), static_cast<QWidget*>(hscrollBar_), cornerWidget_}) {
+        widget->hide();
+    }
+    vscroll_ = std::make_unique<QtScrollBar>(vscrollBar_, ControlKind::VScrollBar, "vscroll");
+    hscroll_ = std::make_unique<QtScrollBar>(hscrollBar_, ControlKind::HScrollBar, "hscroll");
+    picResize_ = std::make_unique<QtCornerPiece>(cornerWidget_);
+    connectBar(hscrollBar_, hscroll_Change, hscroll_Scroll);
+    connectBar(vscrollBar_, vscroll_Change, vscroll_Scroll);
+}
+
+// A value moved by the thumb is a Scroll, any other move a Change; letting go
+// of the thumb is a Change as well.
+void MainWindow::connectBar(QScrollBar* bar, void (*change)(Session&), void (*scroll)(Session&)) {
+    connect(bar, &QScrollBar::valueChanged, this,
+            [this, bar, change, scroll] { (bar->isSliderDown() ? scroll : change)(session_); });
+    connect(bar, &QScrollBar::sliderReleased, this, [this, change] { change(session_); });
+}
+
+// The stored layout, in twips: a client area of 3405 x 5325 under the menu
+// bar, and the controls where they stand before the first picture.
+void MainWindow::placeStoredLayout() {
+    form_.SetWidth(3525);
+    form_.SetHeight(6015);
+    const auto place = [](FormControl& control, float left, float top) {
+        control.SetLeft(left);
+        control.SetTop(top);
+    };
+    place(*picActual_, 120, 720);
+    place(*mousePos_, 120, 480);
+    place(*vscroll_, 3120, 480);
+    vscroll_->SetWidth(255);
+    vscroll_->SetHeight(975);
+    place(*hscroll_, 1920, 480);
+    hscroll_->SetWidth(1095);
+    hscroll_->SetHeight(255);
+    place(*picResize_, 2640, 840);
+    place(*toolbar_, 0, 0);
+    stretchToolbar();
 }
 
 QAction* MainWindow::addMenuEntry(QMenu* menu, const MenuEntry& entry) {
@@ -129,8 +177,11 @@ void MainWindow::setupMenus() {
 }
 
 void MainWindow::setupToolbar() {
-    tlbrMain_ = addToolBar("Toolbar");
+    // Along the top of the client area, over it rather than beside it, so
+    // that showing it moves nothing; it covers what is scrolled under it.
+    tlbrMain_ = new QToolBar("Toolbar", area_);
     tlbrMain_->setMovable(false);
+    tlbrMain_->setAutoFillBackground(true);
     int count = 0;
     const ToolbarEntry* entries = ToolbarEntries(count);
     for (int i = 0; i < count; ++i) {
@@ -149,15 +200,16 @@ void MainWindow::setupToolbar() {
     controls_.SetToolbarButtonEnabled(9, false);
     tlbrMain_->hide();
     controls_.Register(Item::tlbrMain, tlbrMain_);
+    toolbar_ = std::make_unique<QtPlaced<FormControl>>(tlbrMain_, ControlKind::Toolbar, "tlbrMain");
+}
+
+void MainWindow::stretchToolbar() {
+    tlbrMain_->resize(area_->width(), tlbrMain_->sizeHint().height());
 }
 
 void MainWindow::connectPicture() {
     picActual_->onMouseMove = [this](float x, float y) { picActual_MouseMove(session_, x, y); };
     picActual_->onClick = [this] { picActual_Click(session_); };
-    picActual_->onSized = [this] {
-        area_->resize(std::max(kClientSize.width(), picActual_->geometry().right() + 9),
-                      std::max(kClientSize.height(), picActual_->geometry().bottom() + 9));
-    };
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -165,6 +217,30 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
         Form_MouseMove(session_);
     }
     return QMainWindow::eventFilter(watched, event);
+}
+
+// Any change of the window's size, from the logic or from the user, is the
+// form's Resize. Qt sends it from inside resize() for a visible window.
+void MainWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    stretchToolbar();
+    if (event->size() != event->oldSize()) {
+        Form_Resize(session_);
+    }
+}
+
+// Minimising and restoring keep the window's size in Qt, so no resize event
+// comes for them; the form still has its Resize.
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::WindowStateChange) {
+        return;
+    }
+    const auto* change = static_cast<QWindowStateChangeEvent*>(event);
+    const bool wasMinimised = change->oldState() & Qt::WindowMinimized;
+    if (wasMinimised != isMinimized()) {
+        Form_Resize(session_);
+    }
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -5,13 +5,16 @@
 #include "qt/QtAboutWindow.h"
 #include "qt/QtClipboard.h"
 #include "qt/QtControls.h"
+#include "qt/QtCornerPiece.h"
 #include "qt/QtExportDialogs.h"
 #include "qt/QtFileDialog.h"
 #include "qt/QtFileSystem.h"
 #include "qt/QtFormWindow.h"
 #include "qt/QtMessageBoxes.h"
+#include "qt/QtPlaced.h"
 #include "qt/QtQualityDialog.h"
 #include "qt/QtRegistry.h"
+#include "qt/QtScrollBar.h"
 #include "qt/QtSettingsStore.h"
 #include "qt/QtShell.h"
 #include "qt/QtSystemInfoProgram.h"
@@ -19,10 +22,11 @@
 #include "window/MenuTree.h"
 
 #include <QMainWindow>
+#include <memory>
 
 class QLabel;
 class QMenu;
-class QScrollArea;
+class QScrollBar;
 class QToolBar;
 
 namespace sw::qt {
@@ -35,16 +39,25 @@ public:
 
     Session& CurrentSession() { return session_; }
     PictureCanvas& Picture() { return *picActual_; }
+    QScrollBar& HScrollBar() { return *hscrollBar_; }
+    QScrollBar& VScrollBar() { return *vscrollBar_; }
+    QWidget& ClientArea() { return *area_; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
-    void setupPictureArea();
+    void setupClientArea();
+    void setupScrollBars();
+    void placeStoredLayout();
     void setupMenus();
     void setupToolbar();
     void connectPicture();
+    void connectBar(QScrollBar* bar, void (*change)(Session&), void (*scroll)(Session&));
+    void stretchToolbar();
     QAction* addMenuEntry(QMenu* menu, const MenuEntry& entry);
     QAction* addMenuBarCommand(const MenuEntry& entry);
     void run(void (*handler)(Session&));
@@ -65,10 +78,18 @@ private:
     QtSystemInfoProgram sysInfo_;
     Ports ports_;
     Session session_{ports_};
-    QScrollArea* scroll_ = nullptr;
     QWidget* area_ = nullptr;
     QLabel* lblMousePos_ = nullptr;
     QToolBar* tlbrMain_ = nullptr;
+    QScrollBar* hscrollBar_ = nullptr;
+    QScrollBar* vscrollBar_ = nullptr;
+    QWidget* cornerWidget_ = nullptr;
+    // The controls of the client area as the logic sees them.
+    std::unique_ptr<QtPlaced<FormControl>> mousePos_;
+    std::unique_ptr<QtPlaced<FormControl>> toolbar_;
+    std::unique_ptr<QtScrollBar> hscroll_;
+    std::unique_ptr<QtScrollBar> vscroll_;
+    std::unique_ptr<QtCornerPiece> picResize_;
 };
 
 } // namespace sw::qt

@@ -26,9 +26,6 @@ void PictureCanvas::SetPicture(const Picture& picture) {
     image_ = ToImage(picture);
     resize(picture.Width(), picture.Height());
     update();
-    if (onSized) {
-        onSized();
-    }
 }
 
 bool PictureCanvas::Line(int x1, int y1, int x2, int y2, Color color) {
@@ -47,12 +44,6 @@ float PictureCanvas::Width() const {
 }
 float PictureCanvas::Height() const {
     return static_cast<float>(height()) * kTwipsPerPixel;
-}
-float PictureCanvas::Left() const {
-    return static_cast<float>(x()) * kTwipsPerPixel;
-}
-float PictureCanvas::Top() const {
-    return static_cast<float>(y()) * kTwipsPerPixel;
 }
 
 void PictureCanvas::paintEvent(QPaintEvent*) {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "ports/FormControl.h"
 #include "ports/PictureBox.h"
+#include "qt/TwipGeometry.h"
 
 #include <QImage>
 #include <QWidget>
@@ -9,22 +11,27 @@
 namespace sw::qt {
 
 // picActual: shows the working copy of the picture at full size and keeps
-// the strokes painted on it in its own image, so they survive repaints.
-class PictureCanvas : public QWidget, public PictureBox {
+// the strokes painted on it in its own image, so they survive repaints and
+// scrolling. Scrolling moves the whole widget; the pointer's place stays in
+// the picture's own pixels.
+class PictureCanvas : public QWidget, public PictureBox, public FormControl {
 public:
     explicit PictureCanvas(QWidget* parent);
 
     void SetPicture(const Picture& picture) override;
     bool Line(int x1, int y1, int x2, int y2, Color color) override;
+    bool HasPicture() const override { return !image_.isNull(); }
     float Width() const override;
     float Height() const override;
-    float Left() const override;
-    float Top() const override;
+    float Left() const override { return place_.Left(); }
+    float Top() const override { return place_.Top(); }
+    void SetLeft(float left) override { place_.SetLeft(left); }
+    void SetTop(float top) override { place_.SetTop(top); }
+    ControlKind Kind() const override { return ControlKind::PictureBox; }
+    std::string Name() const override { return "picActual"; }
 
     std::function<void(float x, float y)> onMouseMove;
     std::function<void()> onClick;
-    // The box has taken a new picture's size.
-    std::function<void()> onSized;
 
     const QImage& Image() const { return image_; }
 
@@ -36,6 +43,7 @@ protected:
 
 private:
     QImage image_;
+    TwipGeometry place_{this};
     // The second press of a double click is no click.
     bool inDoubleClick_ = false;
 };

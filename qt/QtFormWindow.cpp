@@ -1,27 +1,130 @@
 #include "qt/QtFormWindow.h"
 
 #include "common/Types.h"
+#include "qt/TwipGeometry.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
+#include <QEvent>
 #include <QMainWindow>
+#include <QMenuBar>
 #include <QScreen>
+#include <algorithm>
 
 namespace sw::qt {
+namespace {
+
+constexpr float kFrameWidth = 2 * 60;
+constexpr float kFrameHeight = 630 + 60;
+
+// How long a change of state may take the window manager.
+constexpr qint64 kStateChangeMillis = 1000;
+
+float twips(int pixels) {
+    return static_cast<float>(pixels) * kTwipsPerPixel;
+}
+
+// Notes whether the watched window has had a resize event.
+class ResizeWatch : public QObject {
+public:
+    explicit ResizeWatch(QWidget* window) : window_(window) { window_->installEventFilter(this); }
+    ~ResizeWatch() override { window_->removeEventFilter(this); }
+    bool Seen() const { return seen_; }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        seen_ = seen_ || (watched == window_ && event->type() == QEvent::Resize);
+        return false;
+    }
+
+private:
+    QWidget* window_;
+    bool seen_ = false;
+};
+
+// A window manager carries out a change of state some time after the
+// request. Waiting for its resize keeps the order the logic counts on:
+// Form_Resize has run before the write returns, and a size written next is
+// not undone by the state change arriving late.
+void awaitResize(QWidget* window) {
+    if (!window->isVisible()) {
+        return;
+    }
+    const ResizeWatch watch(window);
+    QElapsedTimer timer;
+    timer.start();
+    while (!watch.Seen() && timer.elapsed() < kStateChangeMillis) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 20);
+    }
+}
+
+} // namespace
+
+void QtFormWindow::Attach(ScrollBar& hscroll, ScrollBar& vscroll, CornerPiece& picResize,
+                          std::vector<FormControl*> controls) {
+    hscroll_ = &hscroll;
+    vscroll_ = &vscroll;
+    picResize_ = &picResize;
+    controls_ = std::move(controls);
+}
+
+int QtFormWindow::MenuBand() const {
+    const QMenuBar* bar = form_->menuBar();
+    return bar->hasHeightForWidth() ? bar->heightForWidth(form_->width())
+                                    : bar->sizeHint().height();
+}
 
 TwipRect QtFormWindow::Bounds() const {
     const QRect frame = form_->frameGeometry();
-    return {static_cast<float>(frame.x()) * kTwipsPerPixel,
-            static_cast<float>(frame.y()) * kTwipsPerPixel,
-            static_cast<float>(frame.width()) * kTwipsPerPixel,
-            static_cast<float>(frame.height()) * kTwipsPerPixel};
+    return {twips(frame.x()), twips(frame.y()), twips(form_->width()) + kFrameWidth,
+            twips(form_->height() - MenuBand()) + kFrameHeight};
+}
+
+void QtFormWindow::SetLeft(float left) {
+    form_->move(PixelsOf(left), form_->frameGeometry().y());
+}
+
+void QtFormWindow::SetTop(float top) {
+    form_->move(form_->frameGeometry().x(), PixelsOf(top));
+}
+
+// Qt delivers the resize event of a visible window before resize() returns,
+// and the main window raises Form_Resize from it.
+void QtFormWindow::SetWidth(float width) {
+    form_->resize(std::max(0, PixelsOf(width - kFrameWidth)), form_->height());
+}
+
+void QtFormWindow::SetHeight(float height) {
+    form_->resize(form_->width(), MenuBand() + std::max(0, PixelsOf(height - kFrameHeight)));
 }
 
 int QtFormWindow::WindowState() const {
     const Qt::WindowStates state = form_->windowState();
     if (state & Qt::WindowMinimized) {
-        return 1;
+        return kWindowMinimised;
     }
-    return state & Qt::WindowMaximized ? 2 : 0;
+    return state & (Qt::WindowMaximized | Qt::WindowFullScreen) ? kWindowMaximised : kWindowNormal;
+}
+
+void QtFormWindow::SetWindowState(int state) {
+    Qt::WindowStates states =
+        form_->windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen);
+    if (state == kWindowMinimised) {
+        states |= Qt::WindowMinimized;
+    } else if (state == kWindowMaximised) {
+        states |= Qt::WindowMaximized;
+    }
+    if (states != form_->windowState()) {
+        form_->setWindowState(states);
+        awaitResize(form_);
+    }
+}
+
+void QtFormWindow::Refresh() {
+    form_->update();
+}
+
+ScreenMetrics QtFormWindow::Screen() const {
+    const QSize size = form_->screen()->geometry().size();
+    return {twips(size.width()), twips(size.height()), kTwipsPerPixel};
 }
 
 void QtFormWindow::SetMousePointer(MousePointer pointer) {
@@ -37,17 +140,5 @@ void QtFormWindow::SetMousePointer(MousePointer pointer) {
 void QtFormWindow::Unload() {
     form_->close();
 }
-
-// Until the window is fitted to its picture by rule, these keep it simple:
-// the window takes the picture's size within the screen, and scrolls beyond.
-void QtFormWindow::NarrowWindow() {}
-
-void QtFormWindow::FitNormalWindow() {
-    const QSize wanted = form_->sizeHint();
-    const QSize room = form_->screen()->availableSize() * 9 / 10;
-    form_->resize(wanted.boundedTo(room).expandedTo(form_->minimumSizeHint()));
-}
-
-void QtFormWindow::FitMaximisedWindow() {}
 
 } // namespace sw::qt

@@ -17,13 +17,15 @@ struct SessionState {
     i16 formBottom = 0;
     i16 rightMargin = 0;
     i16 bottomMargin = 0;
-    // Viewport bookkeeping in twips.
-    i16 formHeightNow = 0;
-    i16 formWidthNow = 0;
-    i16 neededHeight = 0;
-    i16 neededWidth = 0;
-    i16 picOriginX = 0;
-    i16 picOriginY = 0;
+    // Viewport bookkeeping in twips. These sums hold the picture's size in
+    // twips, which leaves 16 bits beyond about 2100 pixels; they are kept in
+    // 32 bits so that a large picture opens and scrolls like any other.
+    i32 formHeightNow = 0;
+    i32 formWidthNow = 0;
+    i32 neededHeight = 0;
+    i32 neededWidth = 0;
+    i32 picOriginX = 0;
+    i32 picOriginY = 0;
     // Last pointer position over the picture, in pixels.
     i16 mouseX = 0;
     i16 mouseY = 0;
@@ -39,8 +41,9 @@ struct SessionState {
     bool linesDrawn = false;
     bool undoOffered = false;
     Color lineColor = 0;
-    i16 lastScrollX = 0;
-    i16 lastScrollY = 0;
+    // The scroll bars' values at the last move of the controls, in twips.
+    i32 lastScrollX = 0;
+    i32 lastScrollY = 0;
     // The remembered settings.
     std::string LastOpenDir;
     std::string LastSaveDir;

@@ -9,3 +9,4 @@
 #include "window/FormLifecycle.h"
 #include "window/PictureOpening.h"
 #include "window/PointerFeedback.h"
+#include "window/Viewport.h"

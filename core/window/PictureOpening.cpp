@@ -2,6 +2,7 @@
 
 #include "session/SectionLines.h"
 #include "session/Session.h"
+#include "window/WindowFitting.h"
 
 #include <optional>
 
@@ -38,9 +39,9 @@ void OpenPicture(Session& session, const Picture& picture) {
     session.clipContainer.picture = picture;
     ports.controls.SetVisible(Item::picActual, true);
     ports.picActual.SetPicture(picture);
-    const bool fittedNormal = ports.form.WindowState() != 2;
+    const bool fittedNormal = ports.form.WindowState() != kWindowMaximised;
     if (fittedNormal) {
-        ports.form.FitNormalWindow();
+        FitNormalWindow(session);
     }
     enableCommands(ports.controls);
     ResetLines(session);
@@ -48,7 +49,7 @@ void OpenPicture(Session& session, const Picture& picture) {
     s.pictureOpen = true;
     ports.controls.SetVisible(Item::tlbrMain, true);
     if (!fittedNormal) {
-        ports.form.FitMaximisedWindow();
+        FitMaximisedWindow(session);
     }
 }
 
@@ -77,7 +78,7 @@ void mnuOPen_Click(Session& session) {
     if (!picture) {
         return;
     }
-    session.ports.form.NarrowWindow();
+    NarrowWindow(session);
     session.state.LastPicture = path;
     session.ports.controls.SetCaption(Item::mnuLastCut, path);
     OpenPicture(session, *picture);
@@ -88,7 +89,7 @@ void mnuLastCut_Click(Session& session) {
     if (!picture) {
         return;
     }
-    session.ports.form.NarrowWindow();
+    NarrowWindow(session);
     OpenPicture(session, *picture);
 }
 

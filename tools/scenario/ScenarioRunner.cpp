@@ -4,6 +4,7 @@
 #include "tools/scenario/DialogScriptCommands.h"
 #include "tools/scenario/ExportCommands.h"
 #include "tools/scenario/ScriptTokens.h"
+#include "tools/scenario/WindowScriptCommands.h"
 #include "window/EventTable.h"
 #include "window/FormLifecycle.h"
 
@@ -63,6 +64,7 @@ ScenarioRunner::ScenarioRunner(std::ostream& transcript, PictureLoader* realLoad
     addBuiltInCommands();
     AddDialogCommands(*this);
     AddExportCommands(*this);
+    AddWindowCommands(*this);
 }
 
 void ScenarioRunner::addBuiltInCommands() {
@@ -91,15 +93,6 @@ void ScenarioRunner::addBuiltInCommands() {
             throw ScriptError("only a stroke can be made to fail");
         }
         r.Ports().picActual.FailStroke(wholeNumber(w[2]));
-    });
-    AddCommand("windowstate", [](ScenarioRunner& r, const Words& w) {
-        expectWords(w, 2, "windowstate 0|1|2");
-        r.Ports().form.SetWindowState(wholeNumber(w[1]));
-    });
-    AddCommand("screen", [](ScenarioRunner& r, const Words& w) {
-        expectWords(w, 3, "screen WIDTH HEIGHT");
-        r.Ports().form.SetScreen(static_cast<float>(wholeNumber(w[1])),
-                                 static_cast<float>(wholeNumber(w[2])));
     });
     AddCommand("apppath", [](ScenarioRunner& r, const Words& w) {
         expectWords(w, 2, "apppath \"folder\"");

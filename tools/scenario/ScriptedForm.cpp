@@ -1,6 +1,114 @@
 #include "tools/scenario/ScriptedForm.h"
 
+#include "common/Numbers.h"
+#include "ports/Controls.h"
+
 namespace sw::scripted {
+namespace {
+
+bool sameSize(const TwipRect& a, const TwipRect& b) {
+    return a.Width == b.Width && a.Height == b.Height;
+}
+
+} // namespace
+
+ScriptedForm::ScriptedForm(Transcript& transcript, ScriptedPictureBox& picActual)
+    : transcript_(transcript), picActual_(picActual),
+      vscroll_(transcript, ControlKind::VScrollBar, "vscroll", {3120, 480, 255, 975}),
+      hscroll_(transcript, ControlKind::HScrollBar, "hscroll", {1920, 480, 1095, 255}),
+      picResize_(transcript, 2640, 840, 255),
+      lblMousePos_(transcript, ControlKind::Label, "lblMousePos", 120, 480) {
+    buildControlList();
+}
+
+// In the stored layout's order: bars, corner, image list, toolbar, dialog,
+// picture, clip control, label, then the menu items.
+void ScriptedForm::buildControlList() {
+    const auto unplaced = [this](ControlKind kind, const char* name) {
+        unplaced_.push_back(std::make_unique<ScriptedControl>(transcript_, kind, name, 0, 0));
+        return unplaced_.back().get();
+    };
+    controls_ = {&vscroll_,
+                 &hscroll_,
+                 &picResize_,
+                 unplaced(ControlKind::ImageList, "ilstToolbar"),
+                 unplaced(ControlKind::Toolbar, "tlbrMain"),
+                 unplaced(ControlKind::CommonDialog, "dlgPic"),
+                 &picActual_,
+                 unplaced(ControlKind::ClipControl, "clipContainer"),
+                 &lblMousePos_};
+    for (int item = static_cast<int>(Item::mnuFile); item <= static_cast<int>(Item::mnuHelp);
+         ++item) {
+        controls_.push_back(unplaced(ControlKind::MenuItem, ItemName(static_cast<Item>(item))));
+    }
+}
+
+TwipRect ScriptedForm::Bounds() const {
+    if (windowState_ == kWindowMaximised) {
+        return {0, 0, screen_.Width, screen_.Height};
+    }
+    return normal_;
+}
+
+void ScriptedForm::resizing(const std::function<void()>& change) {
+    const TwipRect before = Bounds();
+    const int stateBefore = windowState_;
+    change();
+    if (!sameSize(before, Bounds()) || stateBefore != windowState_) {
+        transcript_.Line("raise Form_Resize");
+        if (onResize) {
+            onResize();
+        }
+    }
+}
+
+void ScriptedForm::SetLeft(float left) {
+    transcript_.Line("set frmSlicewright.Left=" + FormatSingle(left));
+    normal_.Left = left;
+}
+
+void ScriptedForm::SetTop(float top) {
+    transcript_.Line("set frmSlicewright.Top=" + FormatSingle(top));
+    normal_.Top = top;
+}
+
+void ScriptedForm::SetWidth(float width) {
+    transcript_.Line("set frmSlicewright.Width=" + FormatSingle(width));
+    resizing([this, width] { normal_.Width = width; });
+}
+
+void ScriptedForm::SetHeight(float height) {
+    transcript_.Line("set frmSlicewright.Height=" + FormatSingle(height));
+    resizing([this, height] { normal_.Height = height; });
+}
+
+void ScriptedForm::SetWindowState(int state) {
+    transcript_.Line("set frmSlicewright.WindowState=" + std::to_string(state));
+    resizing([this, state] { windowState_ = state; });
+}
+
+void ScriptedForm::UserResize(float width, float height) {
+    transcript_.Line("user resize " + FormatSingle(width) + " " + FormatSingle(height));
+    resizing([this, width, height] {
+        normal_.Width = width;
+        normal_.Height = height;
+    });
+}
+
+void ScriptedForm::UserMove(float left, float top) {
+    transcript_.Line("user move " + FormatSingle(left) + " " + FormatSingle(top));
+    normal_.Left = left;
+    normal_.Top = top;
+}
+
+void ScriptedForm::UserWindowState(int state) {
+    transcript_.Line("user windowstate " + std::to_string(state));
+    resizing([this, state] { windowState_ = state; });
+}
+
+void ScriptedForm::Refresh() {
+    transcript_.Line("frmSlicewright.Refresh");
+}
 
 void ScriptedForm::SetMousePointer(MousePointer pointer) {
     transcript_.Line(pointer == MousePointer::Hourglass ? "form pointer=Hourglass"

@@ -7,6 +7,7 @@ namespace sw::scripted {
 void ScriptedPictureBox::SetPicture(const Picture& picture) {
     width_ = static_cast<float>(picture.Width()) * kTwipsPerPixel;
     height_ = static_cast<float>(picture.Height()) * kTwipsPerPixel;
+    hasPicture_ = true;
     transcript_.Line("picActual picture " + std::to_string(picture.Width()) + "x" +
                      std::to_string(picture.Height()));
 }

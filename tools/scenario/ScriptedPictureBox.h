@@ -2,21 +2,24 @@
 
 #include "imaging/Picture.h"
 #include "ports/PictureBox.h"
-#include "tools/scenario/Transcript.h"
+#include "tools/scenario/ScriptedPlace.h"
 
 namespace sw::scripted {
 
-// picActual without a screen: it keeps the picture's size and logs strokes.
-class ScriptedPictureBox : public PictureBox {
+// picActual without a screen: it keeps the picture's size and its place on
+// the form, and logs strokes and moves.
+class ScriptedPictureBox : public PictureBox, public ScriptedControl {
 public:
-    explicit ScriptedPictureBox(Transcript& transcript) : transcript_(transcript) {}
+    explicit ScriptedPictureBox(Transcript& transcript)
+        : ScriptedControl(transcript, ControlKind::PictureBox, "picActual", 120, 720) {}
 
     void SetPicture(const Picture& picture) override;
     bool Line(int x1, int y1, int x2, int y2, Color color) override;
+    bool HasPicture() const override { return hasPicture_; }
     float Width() const override { return width_; }
     float Height() const override { return height_; }
-    float Left() const override { return 120; }
-    float Top() const override { return 720; }
+    float Left() const override { return ScriptedControl::Left(); }
+    float Top() const override { return ScriptedControl::Top(); }
 
     // A size in twips that no picture of whole pixels gives, for tests.
     void SetTwipSize(float width, float height) {
@@ -29,10 +32,10 @@ public:
     void FailStroke(int n) { strokesUntilFailure_ = n; }
 
 private:
-    Transcript& transcript_;
     // The stored layout's size until a picture sizes the box.
     float width_ = 3135;
     float height_ = 4455;
+    bool hasPicture_ = false;
     int strokesUntilFailure_ = 0;
 };
 

@@ -21,4 +21,11 @@ ScriptedPorts::ScriptedPorts(std::ostream& out, PictureLoader* realLoader)
                                             registry,
                                             sysInfo} {}
 
+Ports ScriptedPorts::WithForm(FormWindow& other) const {
+    return Ports{ports.boxes,         ports.dlgPic,    ports.picActual, ports.loader,
+                 ports.controls,      other,           ports.settings,  ports.files,
+                 ports.exportDialogs, ports.clipboard, ports.app,       ports.jpgCompDialog,
+                 ports.aboutWindow,   ports.shell,     ports.registry,  ports.sysInfo};
+}
+
 } // namespace sw::scripted

@@ -28,6 +28,10 @@ class ScriptedPorts {
 public:
     ScriptedPorts(std::ostream& out, PictureLoader* realLoader);
 
+    // These ports with another form in place of the scripted one, for tests
+    // of forms that behave unlike the usual window.
+    Ports WithForm(FormWindow& other) const;
+
     Transcript transcript;
     Answers answers;
     ScriptedBoxes boxes{transcript, answers};
@@ -35,7 +39,7 @@ public:
     ScriptedPictureBox picActual{transcript};
     ScriptedPictureLoader loader;
     ScriptedControls controls{transcript};
-    ScriptedForm form{transcript};
+    ScriptedForm form{transcript, picActual};
     ScriptedSettingsStore settings{transcript};
     ScriptedFileSystem files{transcript};
     ScriptedQualityDialog jpgCompDialog{transcript, answers};
