@@ -25,11 +25,6 @@ struct EncodedDeleter {
 };
 using EncodedBytes = std::unique_ptr<unsigned char, EncodedDeleter>;
 
-struct Encoded {
-    EncodedBytes bytes;
-    unsigned long size = 0;
-};
-
 std::string errorSource() {
     return ProgramName() + ".mIntelJPEGLibrary";
 }
@@ -55,33 +50,62 @@ std::optional<int> refusal(const cDIBSection& surface, i32 quality) {
     return std::nullopt;
 }
 
-// The encoder's worst-case output, allocated up front so that it never grows
-// and copies its buffer; nothing (the encoder then allocates as it goes) for
-// a picture whose worst case the allocator cannot take in one piece.
-Encoded outputBuffer(const cDIBSection& surface) {
-    const unsigned long size = tjBufSize(surface.Width(), surface.Height(), TJSAMP_420);
-    if (size == static_cast<unsigned long>(-1) || size > std::numeric_limits<int>::max()) {
-        return {};
+// One compressor and one output buffer serve every call on a thread: an
+// export writes a hundred sections in a row, and a fresh handle and a fresh
+// worst-case buffer for each cost as much as encoding a small section.
+struct EncoderCache {
+    Encoder encoder;
+    EncodedBytes buffer;
+    unsigned long capacity = 0;
+};
+
+EncoderCache& threadEncoder() {
+    thread_local EncoderCache cache;
+    if (!cache.encoder) {
+        cache.encoder.reset(tjInitCompress());
+        if (!cache.encoder) {
+            failInit(-1);
+        }
     }
-    return {EncodedBytes(tjAlloc(static_cast<int>(size))), size};
+    return cache;
 }
 
-// Compresses the buffer in its stored form: bottom-up BGR rows with their pad.
-Encoded encode(void* encoder, const cDIBSection& surface, i32 quality) {
+// Makes room for the encoder's worst case up front, so that it never grows
+// and copies its buffer; false (the encoder then allocates as it goes) for a
+// picture whose worst case the allocator cannot take in one piece.
+bool reserveOutput(EncoderCache& cache, const cDIBSection& surface) {
+    const unsigned long size = tjBufSize(surface.Width(), surface.Height(), TJSAMP_420);
+    if (size == static_cast<unsigned long>(-1) || size > std::numeric_limits<int>::max()) {
+        return false;
+    }
+    if (size > cache.capacity) {
+        cache.buffer.reset(tjAlloc(static_cast<int>(size)));
+        cache.capacity = cache.buffer ? size : 0;
+    }
+    return cache.buffer != nullptr;
+}
+
+// Compresses the buffer in its stored form: bottom-up BGR rows with their
+// pad. The bytes stay in the thread's buffer until the next call.
+unsigned long encode(EncoderCache& cache, const cDIBSection& surface, i32 quality) {
     if (const std::optional<int> status = refusal(surface, quality)) {
         failWrite(*status);
     }
-    Encoded encoded = outputBuffer(surface);
-    unsigned char* output = encoded.bytes.release();
-    const int flags = TJFLAG_BOTTOMUP | (output != nullptr ? TJFLAG_NOREALLOC : 0);
-    const int status = tjCompress2(encoder, surface.DIBSectionBitsPtr(), surface.Width(),
-                                   surface.BytesPerScanLine(), surface.Height(), TJPF_BGR, &output,
-                                   &encoded.size, TJSAMP_420, quality, flags);
-    encoded.bytes.reset(output);
+    const bool reserved = reserveOutput(cache, surface);
+    unsigned char* output = cache.buffer.release();
+    unsigned long size = reserved ? cache.capacity : 0;
+    const int flags = TJFLAG_BOTTOMUP | (reserved ? TJFLAG_NOREALLOC : 0);
+    const int status = tjCompress2(cache.encoder.get(), surface.DIBSectionBitsPtr(),
+                                   surface.Width(), surface.BytesPerScanLine(), surface.Height(),
+                                   TJPF_BGR, &output, &size, TJSAMP_420, quality, flags);
+    cache.buffer.reset(output);
+    if (!reserved) {
+        cache.capacity = 0;
+    }
     if (status != 0) {
         failWrite(status);
     }
-    return encoded;
+    return size;
 }
 
 // A replaced file keeps the access and modification times of the old one.
@@ -104,15 +128,12 @@ std::optional<struct stat> existingFile(const std::string& path) {
 } // namespace
 
 bool WriteJPGFile(const cDIBSection& surface, const std::string& fileName, i32 quality) {
-    const Encoder encoder(tjInitCompress());
-    if (!encoder) {
-        failInit(-1);
-    }
+    EncoderCache& cache = threadEncoder();
     // Encoded first, in memory: a refused or failed encode leaves the disk alone.
-    const Encoded encoded = encode(encoder.get(), surface, quality);
+    const unsigned long size = encode(cache, surface, quality);
     const std::optional<struct stat> old = existingFile(fileName);
     AtomicFile file(fileName);
-    file.Write(encoded.bytes.get(), encoded.size);
+    file.Write(cache.buffer.get(), size);
     keepTimes(old, file.TemporaryPath());
     file.Commit();
     return true;
