@@ -89,4 +89,14 @@ std::optional<std::string> TruncationProblem(const std::string& path, const std:
     return cutOff ? std::optional<std::string>(kIncompleteFileProblem) : std::nullopt;
 }
 
+std::optional<std::pair<int, int>> GifScreenSize(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    std::array<unsigned char, 10> header{};
+    if (!file.read(reinterpret_cast<char*>(header.data()), header.size()) || header[0] != 'G' ||
+        header[1] != 'I' || header[2] != 'F') {
+        return std::nullopt;
+    }
+    return std::pair<int, int>(header[6] | header[7] << 8, header[8] | header[9] << 8);
+}
+
 } // namespace sw

@@ -97,6 +97,12 @@ LoadedPicture QtPictureLoader::LoadPicture(const std::string& path) {
     if (const std::optional<std::string> problem = sizeProblem(reader.size())) {
         return failure(*problem);
     }
+    if (const std::optional<std::pair<int, int>> screen = GifScreenSize(path)) {
+        if (const std::optional<std::string> problem =
+                PictureSizeProblem(screen->first, screen->second)) {
+            return failure(*problem);
+        }
+    }
     if (const std::optional<std::string> problem =
             TruncationProblem(path, reader.format().toStdString())) {
         return failure(*problem);
@@ -105,6 +111,10 @@ LoadedPicture QtPictureLoader::LoadPicture(const std::string& path) {
     if (decoded.isNull()) {
         return failure("the file is damaged: its picture cannot be decoded (" +
                        reader.errorString().toStdString() + ")");
+    }
+    // The last guard: no reader may give more than its header said and the checks let in.
+    if (const std::optional<std::string> problem = sizeProblem(decoded.size())) {
+        return failure(*problem);
     }
     LoadedPicture result;
     result.picture = toPicture(std::move(decoded));

@@ -144,6 +144,16 @@ Bytes cutBmp() {
     return bytes;
 }
 
+// The project's small GIF with a logical screen of another size than its frames.
+Bytes gifWithScreen(std::uint32_t width, std::uint32_t height) {
+    Bytes bytes = ReadBytes(kProjectData + "/small.gif");
+    Bytes size;
+    test::PutLittleEndian(size, width, 2);
+    test::PutLittleEndian(size, height, 2);
+    std::copy(size.begin(), size.end(), bytes.begin() + 6);
+    return bytes;
+}
+
 const std::string kNotAPicture = "the file is not a BMP, JPG or GIF picture, or it is damaged";
 const std::string kCutOff = "the file is incomplete: it ends before the picture does";
 
@@ -160,7 +170,14 @@ INSTANTIATE_TEST_SUITE_P(
                 "the picture is 40000 x 10 pixels; at most 32767 pixels in either direction "
                 "can be opened"},
         BadFile{"huge.bmp", BmpHeaders(30000, 30000, 24, 0, 0, 0), true,
-                "the picture is 30000 x 30000 pixels, too large to open"}),
+                "the picture is 30000 x 30000 pixels, too large to open"},
+        // Found by fuzzing: Qt's reader gives the frame's size and decodes into the screen's.
+        BadFile{"wide_screen.gif", gifWithScreen(65507, 16), true,
+                "the picture is 65507 x 16 pixels; at most 32767 pixels in either direction "
+                "can be opened"},
+        BadFile{"huge_screen.gif", gifWithScreen(60000, 60000), true,
+                "the picture is 60000 x 60000 pixels; at most 32767 pixels in either direction "
+                "can be opened"}),
     [](const testing::TestParamInfo<BadFile>& info) {
         std::string name = info.param.name;
         std::replace(name.begin(), name.end(), '.', '_');
