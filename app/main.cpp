@@ -1,12 +1,12 @@
 // Slicewright: divides a picture into a grid of sections.
+#include "qt/GuardedApplication.h"
 #include "qt/MainWindow.h"
 #include "qt/image/QtPictureLoader.h"
 
-#include <QApplication>
 #include <QScreen>
 
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
+    sw::qt::GuardedApplication application(argc, argv);
     QApplication::setApplicationName("Slicewright");
     QApplication::setApplicationVersion("2.5.0");
 
