@@ -36,15 +36,6 @@ public:
     }
 };
 
-QAction* findAction(QWidget* window, const QString& text) {
-    for (QAction* action : window->findChildren<QAction*>()) {
-        if (action->text() == text) {
-            return action;
-        }
-    }
-    return nullptr;
-}
-
 qt::GuardedApplication& guard() {
     return *static_cast<qt::GuardedApplication*>(QCoreApplication::instance());
 }
@@ -88,6 +79,25 @@ int stepsBeforeTheProgramEnds(const std::vector<std::function<void()>>& steps) {
     next.start();
     hang.start(10000);
     return QApplication::exec() == 0 ? done : -1;
+}
+
+// Opens the about window over the main window, then runs the closing steps;
+// the program must end after the last of them and not before.
+using ClosingStep = std::function<void(QWidget& main, QWidget* about)>;
+void endsOnlyAfterTheLastStep(const std::vector<ClosingStep>& closing) {
+    SwitchableLoader loader;
+    qt::MainWindow window(loader, "/opt/slicewright");
+    window.show();
+    QWidget* about = nullptr;
+    std::vector<std::function<void()>> steps{
+        [&] { test::FindAction(window, "Program")->trigger(); },
+        [&] { about = aboutWindow(); },
+    };
+    for (const ClosingStep& step : closing) {
+        steps.emplace_back([&window, &about, step] { step(window, about); });
+    }
+    QCOMPARE(stepsBeforeTheProgramEnds(steps), static_cast<int>(steps.size()));
+    QVERIFY(about != nullptr);
 }
 
 } // namespace
@@ -168,7 +178,7 @@ private slots:
         QCOMPARE(session.state.hLineCount, static_cast<i16>(1));
 
         loader.fail = [] { throw std::bad_alloc(); };
-        QAction* lastPicture = findAction(&window, "/pictures/shown.bmp");
+        QAction* lastPicture = test::FindAction(window, "/pictures/shown.bmp");
         QVERIFY(lastPicture != nullptr);
         triggerFromTheEventLoop(lastPicture);
 
@@ -182,9 +192,9 @@ private slots:
         QCOMPARE(session.state.hLines(1), static_cast<i16>(12));
         // The window goes on: the next command works, and the settings are
         // still written on the way out.
-        triggerFromTheEventLoop(findAction(&window, "Red"));
+        triggerFromTheEventLoop(test::FindAction(window, "Red"));
         QCOMPARE(session.state.lineColor, 0x000000FFu);
-        triggerFromTheEventLoop(findAction(&window, "Exit"));
+        triggerFromTheEventLoop(test::FindAction(window, "Exit"));
         QSettings stored(config_.filePath("Corvane-Studio.ini"), QSettings::IniFormat);
         QCOMPARE(stored.value("Slicewright/LastPicture").toString(),
                  QString("/pictures/shown.bmp"));
@@ -210,7 +220,7 @@ private slots:
             }
         });
         answer.start(20);
-        triggerFromTheEventLoop(findAction(&window, "/pictures/huge.bmp"));
+        triggerFromTheEventLoop(test::FindAction(window, "/pictures/huge.bmp"));
         QCOMPARE(shown, QString("Slicewright: Opening the last picture could not be finished: "
                                 "picture too large to hold.\n\nYour section lines and settings "
                                 "are kept."));
@@ -218,53 +228,29 @@ private slots:
     }
 
     void theProgramEndsWhenTheMainWindowClosesLast() {
-        SwitchableLoader loader;
-        qt::MainWindow window(loader, "/opt/slicewright");
-        window.show();
-        QWidget* about = nullptr;
-        const int steps = stepsBeforeTheProgramEnds({
-            [&] { findAction(&window, "Program")->trigger(); },
-            [&] { about = aboutWindow(); },
-            [&] { clickOk(about); },
-            [&] { QVERIFY(window.isVisible()); },
-            [&] { window.close(); },
+        endsOnlyAfterTheLastStep({
+            [](QWidget&, QWidget* about) { clickOk(about); },
+            [](QWidget& main, QWidget*) { QVERIFY(main.isVisible()); },
+            [](QWidget& main, QWidget*) { main.close(); },
         });
-        QVERIFY(about != nullptr);
-        QCOMPARE(steps, 5);
     }
 
     void theProgramEndsWhenTheAboutWindowClosesLast() {
-        SwitchableLoader loader;
-        qt::MainWindow window(loader, "/opt/slicewright");
-        window.show();
-        QWidget* about = nullptr;
-        const int steps = stepsBeforeTheProgramEnds({
-            [&] { findAction(&window, "Program")->trigger(); },
-            [&] { about = aboutWindow(); },
-            [&] { window.close(); },
-            [&] { QVERIFY(aboutWindow() != nullptr); },
-            [&] { clickOk(about); },
+        endsOnlyAfterTheLastStep({
+            [](QWidget& main, QWidget*) { main.close(); },
+            [](QWidget&, QWidget*) { QVERIFY(aboutWindow() != nullptr); },
+            [](QWidget&, QWidget* about) { clickOk(about); },
         });
-        QVERIFY(about != nullptr);
-        QCOMPARE(steps, 5);
     }
 
     // Exit closes the main window only; the about window stays until the
     // user closes it, and then the program ends.
     void afterExitTheAboutWindowStaysUntilClosed() {
-        SwitchableLoader loader;
-        qt::MainWindow window(loader, "/opt/slicewright");
-        window.show();
-        QWidget* about = nullptr;
-        const int steps = stepsBeforeTheProgramEnds({
-            [&] { findAction(&window, "Program")->trigger(); },
-            [&] { about = aboutWindow(); },
-            [&] { findAction(&window, "Exit")->trigger(); },
-            [&] { QVERIFY(!window.isVisible() && aboutWindow() != nullptr); },
-            [&] { about->close(); },
+        endsOnlyAfterTheLastStep({
+            [](QWidget& main, QWidget*) { test::FindAction(main, "Exit")->trigger(); },
+            [](QWidget& main, QWidget*) { QVERIFY(!main.isVisible() && aboutWindow()); },
+            [](QWidget&, QWidget* about) { about->close(); },
         });
-        QVERIFY(about != nullptr);
-        QCOMPARE(steps, 5);
     }
 
 private:
