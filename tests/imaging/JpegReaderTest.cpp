@@ -1,6 +1,7 @@
 #include "imaging/JpegReader.h"
 
 #include "qt/image/QtPictureLoader.h"
+#include "tests/imaging/FileBytes.h"
 #include "tests/imaging/ImageMagick.h"
 #include "tests/imaging/TestPictures.h"
 
@@ -14,17 +15,7 @@
 namespace sw {
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
-
-Bytes readBytes(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-void writeBytes(const std::string& path, const Bytes& bytes) {
-    std::ofstream(path, std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<long>(bytes.size()));
-}
+using test::Bytes;
 
 // Qt's own decode of the file, pixels as stored, as 0x00BBGGRR values.
 std::vector<std::uint32_t> qtPixels(const std::string& path, QSize& size) {
@@ -130,7 +121,7 @@ TEST(JpegReader, ReadsAnExifRotatedPictureAsStored) {
     const std::string upright = folder.Path("upright.jpg");
     test::Convert("rose: -quality 90 '" + upright + "'");
     const std::string path = folder.Path("rotated.jpg");
-    writeBytes(path, withTurningTag(readBytes(upright)));
+    test::WriteBytes(path, withTurningTag(test::ReadBytes(upright)));
     // The tag is there and means what it should: a decoder asked to apply it turns the picture.
     ASSERT_EQ(test::RunCommand("/usr/bin/identify -format '%[orientation]' '" + path + "'"),
               "RightTop");
@@ -164,7 +155,7 @@ std::string jpgClaiming(const test::ScratchFolder& folder, int width, int height
     const std::string path =
         folder.Path(std::to_string(width) + "x" + std::to_string(height) + ".jpg");
     test::Convert("rose: -quality 90 '" + path + "'");
-    Bytes bytes = readBytes(path);
+    Bytes bytes = test::ReadBytes(path);
     for (std::size_t i = 0; i + 9 < bytes.size(); ++i) {
         if (bytes[i] == 0xFF && bytes[i + 1] == 0xC0) {
             bytes[i + 5] = static_cast<std::uint8_t>(height >> 8);
@@ -174,7 +165,7 @@ std::string jpgClaiming(const test::ScratchFolder& folder, int width, int height
             break;
         }
     }
-    writeBytes(path, bytes);
+    test::WriteBytes(path, bytes);
     return path;
 }
 
@@ -188,7 +179,7 @@ TEST(JpegReader, TheHeaderSizeIsCheckedBeforeThePixelsTakeMemory) {
     // A start that leads to no frame header is no picture.
     const Bytes garbage = {0xFF, 0xD8, 0xFF, 0xE0, 0x00, 0x02, 0x01, 0x02, 0x03};
     const std::string path = folder.Path("garbage.jpg");
-    writeBytes(path, garbage);
+    test::WriteBytes(path, garbage);
     EXPECT_EQ(QtPictureLoader().LoadPicture(path).error,
               "the file is not a BMP, JPG or GIF picture, or it is damaged");
 }
