@@ -1,8 +1,6 @@
 #include "tests/imaging/BmpMaker.h"
 
 #include <cmath>
-#include <fstream>
-#include <iterator>
 
 namespace sw::test {
 namespace {
@@ -265,17 +263,6 @@ Bytes BmpHeaders(std::int32_t width, std::int32_t height, int bits, int compress
     PutLittleEndian(out, imageBytes, 4);
     out.insert(out.end(), 16, 0); // resolution, palette size, important colours
     return out;
-}
-
-void WriteBytes(const std::string& path, const Bytes& bytes) {
-    std::ofstream(path, std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes.data()),
-               static_cast<std::streamsize>(bytes.size()));
-}
-
-Bytes ReadBytes(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
 } // namespace sw::test

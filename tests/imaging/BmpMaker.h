@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/imaging/FileBytes.h"
 #include "tests/imaging/ImageMagick.h"
 
 #include <array>
@@ -8,8 +9,6 @@
 #include <vector>
 
 namespace sw::test {
-
-using Bytes = std::vector<std::uint8_t>;
 
 // The header kinds of BMP files, by the size of their info header.
 enum class BmpInfo { Os2Core = 12, Os2Second = 64, Windows = 40, WindowsV4 = 108, WindowsV5 = 124 };
@@ -41,7 +40,5 @@ Bytes BmpHeaders(std::int32_t width, std::int32_t height, int bits, int compress
                  std::uint32_t paletteBytes, std::uint32_t imageBytes);
 
 void PutLittleEndian(Bytes& out, std::uint32_t value, int count);
-void WriteBytes(const std::string& path, const Bytes& bytes);
-Bytes ReadBytes(const std::string& path);
 
 } // namespace sw::test
