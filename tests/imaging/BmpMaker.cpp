@@ -34,15 +34,21 @@ unsigned sampleIndex(int x, int y, unsigned n) {
     return static_cast<unsigned>(x * 3 + y * 5) % n;
 }
 
+// The lowest bit of a mask that is not 0.
+int maskShift(std::uint32_t mask) {
+    int shift = 0;
+    while ((mask >> shift & 1) == 0) {
+        ++shift;
+    }
+    return shift;
+}
+
 // An 8-bit value in a channel of that mask, rounded to its nearest step.
 std::uint32_t inMask(std::uint32_t value, std::uint32_t mask) {
     if (mask == 0) {
         return 0;
     }
-    int shift = 0;
-    while ((mask >> shift & 1) == 0) {
-        ++shift;
-    }
+    const int shift = maskShift(mask);
     const double largest = static_cast<double>(mask >> shift);
     return static_cast<std::uint32_t>(std::lround(value * largest / 255.0)) << shift;
 }
@@ -52,12 +58,8 @@ std::uint8_t fromMask(std::uint32_t stored, std::uint32_t mask) {
     if (mask == 0) {
         return 0;
     }
-    int shift = 0;
-    while ((mask >> shift & 1) == 0) {
-        ++shift;
-    }
-    const double largest = static_cast<double>(mask >> shift);
-    return static_cast<std::uint8_t>(std::lround((stored >> shift) * 255.0 / largest));
+    const int shift = maskShift(mask);
+    return static_cast<std::uint8_t>(std::lround((stored >> shift) * 255.0 / (mask >> shift)));
 }
 
 bool isIndexed(const BmpKind& kind) {
