@@ -6,6 +6,7 @@
 #include "window/EditCommands.h"
 #include "window/FormLifecycle.h"
 #include "window/MenuTree.h"
+#include "window/PictureOpening.h"
 #include "window/PointerFeedback.h"
 #include "window/Toolbar.h"
 #include "window/Viewport.h"
@@ -32,7 +33,8 @@ bool isCheckable(Item item) {
 
 } // namespace
 
-MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath)
+MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath,
+                       const std::string& dataPath)
     : picActual_(new PictureCanvas(nullptr)), ports_{boxes_,
                                                      dlgPic_,
                                                      *picActual_,
@@ -43,12 +45,14 @@ MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath)
                                                      files_,
                                                      exportDialogs_,
                                                      clipboard_,
-                                                     AppInfo{appPath, "Slicewright", "slicewright"},
+                                                     AppInfo{appPath, "Slicewright", "slicewright",
+                                                             dataPath},
                                                      jpgCompDialog_,
                                                      aboutWindow_,
                                                      shell_,
                                                      registry_,
-                                                     sysInfo_} {
+                                                     sysInfo_,
+                                                     userFolders_} {
     aboutWindow_.raise = [this](void (frmAbout::*event)()) { RaiseAboutEvent(session_, event); };
     setWindowTitle("Slicewright");
     setupMenus();
@@ -56,6 +60,10 @@ MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath)
     connectPicture();
     placeStoredLayout();
     Form_Load(session_);
+}
+
+void MainWindow::OpenPictureFile(const std::string& path) {
+    OpenChosenPicture(session_, path);
 }
 
 void MainWindow::run(void (*handler)(Session&)) {
