@@ -2,10 +2,10 @@
 #include "qt/ApplicationIcon.h"
 #include "qt/CommandLine.h"
 #include "qt/DisplayCheck.h"
+#include "qt/GuardedApplication.h"
 #include "qt/MainWindow.h"
 #include "qt/image/QtPictureLoader.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QScreen>
 #include <QTimer>
@@ -44,7 +44,7 @@ int main(int argc, char** argv) {
         std::fputs(sw::qt::kNoDisplayMessage, stderr);
         return 1;
     }
-    QApplication application(argc, argv);
+    sw::qt::GuardedApplication application(argc, argv);
     nameTheProgram();
     QGuiApplication::setDesktopFileName(SLICEWRIGHT_APP_ID);
     QApplication::setWindowIcon(sw::qt::ApplicationIcon());
