@@ -76,8 +76,9 @@ i32 tileSide(const std::string& text, const std::string& whole) {
     const Converted<i16> side = TextToInteger(text);
     if (!side.ok() || !IsNumericText(text) || side.value < 1 ||
         text.find_first_not_of("0123456789 ") != std::string::npos) {
-        throw UsageError{"--tile \"" + whole +
-                         "\": give width x height in whole pixels from 1 to 32767, such as 256x256"};
+        throw UsageError{
+            "--tile \"" + whole +
+            "\": give width x height in whole pixels from 1 to 32767, such as 256x256"};
     }
     return side.value;
 }

@@ -37,8 +37,8 @@ std::string escapedText(const std::string& text) {
 
 std::string cell(const SectionRect& piece, std::size_t row, std::size_t column,
                  const std::string& pagePath) {
-    const std::string area = "grid-area: " + std::to_string(row + 1) + " / " +
-                             std::to_string(column + 1);
+    const std::string area =
+        "grid-area: " + std::to_string(row + 1) + " / " + std::to_string(column + 1);
     if (!HasArea(piece)) {
         return "<div style=\"" + area + "\"></div>";
     }
@@ -76,16 +76,15 @@ std::string RelativeTo(const std::string& file, const std::string& page) {
 
 std::string CssPageText(const PieceLayout& layout, const std::string& title,
                         const std::string& pagePath) {
-    std::string page = "<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<title>" +
-                       escapedText(title) +
-                       "</title>\n<style>\n"
-                       "body { margin: 0; }\n"
-                       ".pieces { display: grid; grid-template-columns: " +
-                       tracks(layout.columnWidths) +
-                       "; grid-template-rows: " + tracks(layout.rowHeights) +
-                       "; }\n"
-                       ".pieces img { display: block; }\n"
-                       "</style>\n</head>\n<body>\n<div class=\"pieces\">\n";
+    std::string page =
+        "<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<title>" + escapedText(title) +
+        "</title>\n<style>\n"
+        "body { margin: 0; }\n"
+        ".pieces { display: grid; grid-template-columns: " +
+        tracks(layout.columnWidths) + "; grid-template-rows: " + tracks(layout.rowHeights) +
+        "; }\n"
+        ".pieces img { display: block; }\n"
+        "</style>\n</head>\n<body>\n<div class=\"pieces\">\n";
     const std::size_t columns = layout.columnWidths.size();
     for (std::size_t i = 0; i < layout.pieces.size(); ++i) {
         page += cell(layout.pieces[i], i / columns, i % columns, pagePath) + "\n";

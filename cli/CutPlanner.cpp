@@ -68,18 +68,17 @@ OneBasedArray<i16> lineArray(const std::vector<i16>& positions) {
 void applyPattern(CutPlan& plan, const NamePattern& pattern) {
     const CutDestination& destination = plan.Destination;
     for (SectionRect& section : plan.Sections) {
-        section.CellName =
-            pattern.Name(destination.BaseName, section.Number, RowOf(plan, section),
-                         ColumnOf(plan, section)) +
-            destination.Extension;
+        section.CellName = pattern.Name(destination.BaseName, section.Number, RowOf(plan, section),
+                                        ColumnOf(plan, section)) +
+                           destination.Extension;
         section.FileName = destination.Folder + section.CellName;
     }
 }
 
 } // namespace
 
-std::variant<PlannedLines, PlanRefusal> PlanLines(const CutOptions& options, i32 width,
-                                                  i32 height, const ParsedLineFile& lineFile) {
+std::variant<PlannedLines, PlanRefusal> PlanLines(const CutOptions& options, i32 width, i32 height,
+                                                  const ParsedLineFile& lineFile) {
     switch (options.source) {
     case LineSource::Grid:
         return grid(options, width, height);
@@ -97,8 +96,8 @@ std::variant<PlannedLines, PlanRefusal> PlanLines(const CutOptions& options, i32
 std::variant<CutPlan, PlanRefusal> PlanPieces(const PlannedLines& lines, i32 width, i32 height,
                                               const CutDestination& destination,
                                               const std::optional<NamePattern>& pattern) {
-    const std::int64_t sections = (std::int64_t(lines.horizontal.size()) + 1) *
-                                  (std::int64_t(lines.vertical.size()) + 1);
+    const std::int64_t sections =
+        (std::int64_t(lines.horizontal.size()) + 1) * (std::int64_t(lines.vertical.size()) + 1);
     if (lines.horizontal.size() > kMostLinesOfAKind || lines.vertical.size() > kMostLinesOfAKind ||
         sections > kMostSections) {
         return PlanRefusal{"the lines make " + std::to_string(sections) + " sections; at most " +

@@ -24,8 +24,8 @@ struct PlanRefusal {
 // The lines that the options put on a picture of that size: an equal
 // division, tiles, the records of a line file (read beforehand), or the
 // lines given.
-std::variant<PlannedLines, PlanRefusal> PlanLines(const CutOptions& options, i32 width,
-                                                  i32 height, const ParsedLineFile& lineFile);
+std::variant<PlannedLines, PlanRefusal> PlanLines(const CutOptions& options, i32 width, i32 height,
+                                                  const ParsedLineFile& lineFile);
 
 // The window's plan for the lines: sorted, the grid between them and the
 // picture's edges, the sections named `folder` + `base` + number + extension,

@@ -129,8 +129,8 @@ bool CutRun::nothingReplaced() {
 void CutRun::printPlan(const PictureJob& job) {
     const PieceLayout& layout = job.layout;
     out_ << job.picture << ": " << job.width << " x " << job.height << ", "
-         << layout.rowHeights.size() << " row(s) x " << layout.columnWidths.size()
-         << " column(s), " << NameOf(job.format) << "\n";
+         << layout.rowHeights.size() << " row(s) x " << layout.columnWidths.size() << " column(s), "
+         << NameOf(job.format) << "\n";
     for (const SectionRect& piece : layout.pieces) {
         const SectionRect& planned = job.plan.Sections[static_cast<std::size_t>(piece.Number - 1)];
         out_ << "  " << piece.Number << "  row " << RowOf(job.plan, planned) << " column "
@@ -187,8 +187,8 @@ bool CutRun::writeSideFiles(const PictureJob& job, const SectionCells& cells) {
             writeTextFile(job.htmlFile, TableText(BuildTableLines(cells, job.plan.Columns)));
         }
         if (!job.cssFile.empty()) {
-            writeTextFile(job.cssFile, CssPageText(job.layout, job.plan.Destination.BaseName,
-                                                   job.cssFile));
+            writeTextFile(job.cssFile,
+                          CssPageText(job.layout, job.plan.Destination.BaseName, job.cssFile));
         }
         if (!job.manifestFile.empty()) {
             const ManifestSource source{job.picture,
@@ -200,8 +200,8 @@ bool CutRun::writeSideFiles(const PictureJob& job, const SectionCells& cells) {
             writeTextFile(job.manifestFile, ManifestText(source, job.layout));
         }
     } catch (const FileWriteError& error) {
-        fail(error.Path(), "cannot be written: " + error.Reason() +
-                               " (the pieces of " + job.picture + " are all written)");
+        fail(error.Path(), "cannot be written: " + error.Reason() + " (the pieces of " +
+                               job.picture + " are all written)");
         return false;
     }
     return true;

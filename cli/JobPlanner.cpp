@@ -28,8 +28,7 @@ std::string sideFile(const CutOptions& options, const std::string& given,
 
 } // namespace
 
-std::variant<PictureJob, PlanRefusal> PlanJob(const CutOptions& options,
-                                              const std::string& picture,
+std::variant<PictureJob, PlanRefusal> PlanJob(const CutOptions& options, const std::string& picture,
                                               const ParsedLineFile& lineFile) {
     const auto size = PictureSizeOf(picture);
     if (const auto* reason = std::get_if<std::string>(&size)) {

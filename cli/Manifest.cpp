@@ -29,8 +29,9 @@ std::string ManifestText(const ManifestSource& source, const PieceLayout& layout
         sections.push_back(sectionEntry(piece, source.columns));
     }
     const nlohmann::json manifest = {
-        {"picture", source.picture}, {"width", source.width},   {"height", source.height},
-        {"format", NameOf(source.format)}, {"rows", source.rows}, {"columns", source.columns},
+        {"picture", source.picture}, {"width", source.width},
+        {"height", source.height},   {"format", NameOf(source.format)},
+        {"rows", source.rows},       {"columns", source.columns},
         {"sections", sections},
     };
     return manifest.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) + "\n";

@@ -39,8 +39,9 @@ std::optional<NamePattern::Part> NamePattern::parseField(const std::string& insi
         return part;
     }
     const std::string width = inside.substr(colon + 1);
-    const bool digits = !width.empty() && width.size() <= 2 &&
-                        std::all_of(width.begin(), width.end(), [](char c) { return c >= '0' && c <= '9'; });
+    const bool digits =
+        !width.empty() && width.size() <= 2 &&
+        std::all_of(width.begin(), width.end(), [](char c) { return c >= '0' && c <= '9'; });
     if (part.field == Field::Base || !digits || std::stoi(width) > kMostWidth) {
         problem = "bad padding in {" + inside + "}; a number field takes a width such as {n:03}";
         return std::nullopt;

@@ -30,7 +30,8 @@ constexpr int kCompressionLevel = 3;
 
 void check(int status, const std::string& fileName) {
     if (status != 0 && status != SPNG_EOI) {
-        throw FileWriteError(fileName, std::string("the PNG encoder failed: ") + spng_strerror(status));
+        throw FileWriteError(fileName,
+                             std::string("the PNG encoder failed: ") + spng_strerror(status));
     }
 }
 

@@ -102,10 +102,9 @@ VerificationReport VerifyPieces(const Picture& picture, const PieceLayout& layou
                                       std::to_string(difference.differingPixels) +
                                       " pixels differ from the picture");
         } else if (!IsLossless(format) && difference.psnr < psnrFloor) {
-            report.problems.push_back(rect.FileName + ": PSNR " +
-                                      std::to_string(static_cast<int>(difference.psnr)) +
-                                      " dB, below the floor of " +
-                                      std::to_string(static_cast<int>(psnrFloor)) + " dB");
+            report.problems.push_back(
+                rect.FileName + ": PSNR " + std::to_string(static_cast<int>(difference.psnr)) +
+                " dB, below the floor of " + std::to_string(static_cast<int>(psnrFloor)) + " dB");
         }
     }
     if (const std::int64_t uncovered = coverage.NotOnce(); uncovered > 0) {

@@ -32,7 +32,8 @@ void WriteWebpFile(const Picture& picture, const std::string& fileName, i32 qual
     const std::size_t stride = static_cast<std::size_t>(width) * 3;
     std::vector<std::uint8_t> rows(stride * static_cast<std::size_t>(height));
     for (int y = 0; y < height; ++y) {
-        CopyRowOut(picture, y, ChannelOrder::Bgr, rows.data() + stride * static_cast<std::size_t>(y));
+        CopyRowOut(picture, y, ChannelOrder::Bgr,
+                   rows.data() + stride * static_cast<std::size_t>(y));
     }
     std::uint8_t* encoded = nullptr;
     const std::size_t size = WebPEncodeBGR(rows.data(), width, height, static_cast<int>(stride),

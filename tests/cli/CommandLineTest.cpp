@@ -15,9 +15,11 @@ CommandLine parse(std::initializer_list<const char*> arguments) {
 
 TEST(CutCommandLine, ReadsEveryOptionIntoTheModel) {
     const CommandLine line =
-        parse({"a.jpg", "b.bmp", "--h", "10,-3,40", "--v", "7", "-o", "out", "--name", "{base}_{n:02}",
-               "-f", "WebP", "-q", "55", "--html", "t.html", "--css", "p.html", "--manifest", "m.json",
-               "--verify", "--force", "--dry-run", "-j", "3", "--quiet"});
+        parse({"a.jpg",      "b.bmp",  "--h",      "10,-3,40",      "--v",       "7",
+               "-o",         "out",    "--name",   "{base}_{n:02}", "-f",        "WebP",
+               "-q",         "55",     "--html",   "t.html",        "--css",     "p.html",
+               "--manifest", "m.json", "--verify", "--force",       "--dry-run", "-j",
+               "3",          "--quiet"});
     ASSERT_TRUE(line.options) << line.error;
     const CutOptions& o = *line.options;
     EXPECT_EQ(o.pictures, (std::vector<std::string>{"a.jpg", "b.bmp"}));
@@ -57,18 +59,18 @@ TEST(CutCommandLine, GridCountsAreReadAsTheDivisionBoxReadsThem) {
 }
 
 TEST(CutCommandLine, UsageErrorsEndWithTwoAndAShortUsage) {
-    for (const auto& arguments : std::vector<std::vector<const char*>>{
-             {},
-             {"a.bmp"},
-             {"a.bmp", "--grid", "2x2", "--lines", "x.ple"},
-             {"a.bmp", "--tile", "10"},
-             {"a.bmp", "--tile", "10x1.5"},
-             {"a.bmp", "--v", "1,,2"},
-             {"a.bmp", "--grid", "2x2", "--name", "{n:xx}"},
-             {"a.bmp", "--grid", "2x2", "--name", "{base}"},
-             {"a.bmp", "--grid", "2x2", "--name", "sub/{n}"},
-             {"a.bmp", "--grid", "2x2", "-f", "tiff"},
-             {"x/a.bmp", "y/a.jpg", "--grid", "2x2"}}) {
+    for (const auto& arguments :
+         std::vector<std::vector<const char*>>{{},
+                                               {"a.bmp"},
+                                               {"a.bmp", "--grid", "2x2", "--lines", "x.ple"},
+                                               {"a.bmp", "--tile", "10"},
+                                               {"a.bmp", "--tile", "10x1.5"},
+                                               {"a.bmp", "--v", "1,,2"},
+                                               {"a.bmp", "--grid", "2x2", "--name", "{n:xx}"},
+                                               {"a.bmp", "--grid", "2x2", "--name", "{base}"},
+                                               {"a.bmp", "--grid", "2x2", "--name", "sub/{n}"},
+                                               {"a.bmp", "--grid", "2x2", "-f", "tiff"},
+                                               {"x/a.bmp", "y/a.jpg", "--grid", "2x2"}}) {
         std::vector<const char*> argv{"slicewright-cut"};
         argv.insert(argv.end(), arguments.begin(), arguments.end());
         const CommandLine line = ParseCommandLine(static_cast<int>(argv.size()), argv.data());

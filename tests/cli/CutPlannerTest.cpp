@@ -31,7 +31,8 @@ TEST(CutPlanner, GridPlacesTheWindowsEqualDivision) {
 }
 
 TEST(CutPlanner, GridRefusesSectionsBelowOnePixel) {
-    EXPECT_TRUE(std::holds_alternative<PlannedLines>(PlanLines(gridOptions("100", "2"), 10, 100, {})));
+    EXPECT_TRUE(
+        std::holds_alternative<PlannedLines>(PlanLines(gridOptions("100", "2"), 10, 100, {})));
     const auto rows = PlanLines(gridOptions("101", "2"), 10, 100, {});
     ASSERT_TRUE(std::holds_alternative<PlanRefusal>(rows));
     EXPECT_NE(std::get<PlanRefusal>(rows).why.find(
@@ -87,7 +88,8 @@ TEST(CutPlanner, RefusesMoreSectionsThanNumbersCanName) {
     lines.vertical.assign(4000, 1);
     const auto plan = PlanPieces(lines, 10, 10, {"", "x", ".bmp"}, {});
     ASSERT_TRUE(std::holds_alternative<PlanRefusal>(plan));
-    EXPECT_NE(std::get<PlanRefusal>(plan).why.find(std::to_string(kMostSections)), std::string::npos);
+    EXPECT_NE(std::get<PlanRefusal>(plan).why.find(std::to_string(kMostSections)),
+              std::string::npos);
 }
 
 } // namespace

@@ -97,7 +97,8 @@ TEST_F(PieceFiles, VerifyPassesUntouchedPiecesAndCatchesAChangedOne) {
             original.Row(0) - (original.Height() - 1) * original.RowPitch();
         std::vector<std::uint8_t> bytes(bottom, bottom + original.RowPitch() * original.Height());
         bytes[0] ^= 0x40;
-        const Picture changed = Picture::FromBottomUpBgr(original.Width(), original.Height(), bytes);
+        const Picture changed =
+            Picture::FromBottomUpBgr(original.Width(), original.Height(), bytes);
         format == PieceFormat::Png ? WritePngFile(changed, piece) : SavePicture(changed, piece);
         const VerificationReport report = VerifyPieces(picture, job.layout, format, 30);
         ASSERT_EQ(report.problems.size(), 1u);
