@@ -168,7 +168,9 @@ void checkPictureNames(const CutOptions& options) {
 }
 
 void addOptions(CLI::App& app, CutOptions& options, RawOptions& raw) {
-    app.add_option("PICTURE", options.pictures, "BMP, JPG or GIF pictures to cut")->required();
+    app.add_option("PICTURE", options.pictures, "BMP, JPG or GIF pictures to cut")
+        ->required()
+        ->type_name("");
     app.add_option("--grid", raw.grid,
                    "R rows and C columns by the window's equal division (same rounding, same "
                    "refusals)")
@@ -194,7 +196,7 @@ void addOptions(CLI::App& app, CutOptions& options, RawOptions& raw) {
                    "bmp, jpg, png or webp (default: jpg for a JPG picture, else bmp)")
         ->type_name("FORMAT");
     app.add_option("-q,--quality", options.quality, "JPEG and WebP quality 1..100 (default 90)")
-        ->check(CLI::Range(1, 100))
+        ->check(CLI::Range(1, 100).description(""))
         ->type_name("N");
     app.add_option("--html", options.htmlFile, "write the window's HTML table to FILE")
         ->type_name("FILE");
@@ -213,7 +215,7 @@ void addOptions(CLI::App& app, CutOptions& options, RawOptions& raw) {
     app.add_flag("--dry-run", options.dryRun,
                  "print the plan (sections, names, rectangles) and write nothing");
     app.add_option("-j,--jobs", options.jobs, "sections encoded at once (default: every core)")
-        ->check(CLI::Range(1, 1024))
+        ->check(CLI::Range(1, 1024).description(""))
         ->type_name("N");
     auto* progress = app.add_flag("--progress", options.progress,
                                   "a progress bar on standard error when it is a terminal");
