@@ -1,4 +1,5 @@
 // Slicewright: divides a picture into a grid of sections.
+#include "qt/ApplicationIcon.h"
 #include "qt/MainWindow.h"
 #include "qt/image/QtPictureLoader.h"
 
@@ -9,6 +10,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName("Slicewright");
     QApplication::setApplicationVersion("2.5.0");
+    QApplication::setWindowIcon(sw::qt::ApplicationIcon());
 
     sw::QtPictureLoader loader;
     sw::qt::MainWindow window(loader, QCoreApplication::applicationDirPath().toStdString());

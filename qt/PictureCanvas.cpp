@@ -3,6 +3,7 @@
 #include "qt/PictureImage.h"
 
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <cmath>
 
@@ -23,16 +24,24 @@ PictureCanvas::PictureCanvas(QWidget* parent) : QWidget(parent) {
 }
 
 void PictureCanvas::SetPicture(const Picture& picture) {
-    image_ = ToImage(picture);
+    picture_ = picture;
+    strokes_ = QImage();
     resize(picture.Width(), picture.Height());
     update();
 }
 
+QImage PictureCanvas::Image() const {
+    return strokes_.isNull() ? ToImage(picture_) : strokes_;
+}
+
 bool PictureCanvas::Line(int x1, int y1, int x2, int y2, Color color) {
-    if (image_.isNull()) {
+    if (strokes_.isNull() && !picture_.IsEmpty()) {
+        strokes_ = ToImage(picture_);
+    }
+    if (strokes_.isNull()) {
         return false;
     }
-    QPainter painter(&image_);
+    QPainter painter(&strokes_);
     painter.setPen(QPen(colorOf(color), 1));
     painter.drawLine(x1, y1, x2, y2);
     update();
@@ -46,9 +55,21 @@ float PictureCanvas::Height() const {
     return static_cast<float>(height()) * kTwipsPerPixel;
 }
 
-void PictureCanvas::paintEvent(QPaintEvent*) {
+void PictureCanvas::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    painter.drawImage(0, 0, image_);
+    if (!strokes_.isNull()) {
+        painter.drawImage(0, 0, strokes_);
+        return;
+    }
+    // The shared pixels are stored bottom-up, which an image cannot describe:
+    // each row the event asks for is drawn on its own, without a copy.
+    const QRect wanted = event->rect() & QRect(0, 0, picture_.Width(), picture_.Height());
+    for (int y = wanted.top(); y <= wanted.bottom(); ++y) {
+        const QImage row(picture_.Row(y), picture_.Width(), 1,
+                         static_cast<qsizetype>(picture_.RowPitch()), QImage::Format_BGR888);
+        painter.drawImage(QPoint(wanted.left(), y), row,
+                          QRect(wanted.left(), 0, wanted.width(), 1));
+    }
 }
 
 void PictureCanvas::mouseMoveEvent(QMouseEvent* event) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "imaging/Picture.h"
 #include "ports/FormControl.h"
 #include "ports/PictureBox.h"
 #include "qt/TwipGeometry.h"
@@ -12,15 +13,17 @@ namespace sw::qt {
 
 // picActual: shows the working copy of the picture at full size and keeps
 // the strokes painted on it in its own image, so they survive repaints and
-// scrolling. Scrolling moves the whole widget; the pointer's place stays in
-// the picture's own pixels.
+// scrolling. Until the first stroke it shows the pixels of the picture it was
+// given, shared with the clean copy, so that an open picture lies in memory
+// once; the first stroke makes the copy it paints on. Scrolling moves the whole widget; the
+// pointer's place stays in the picture's own pixels.
 class PictureCanvas : public QWidget, public PictureBox, public FormControl {
 public:
     explicit PictureCanvas(QWidget* parent);
 
     void SetPicture(const Picture& picture) override;
     bool Line(int x1, int y1, int x2, int y2, Color color) override;
-    bool HasPicture() const override { return !image_.isNull(); }
+    bool HasPicture() const override { return !picture_.IsEmpty(); }
     float Width() const override;
     float Height() const override;
     float Left() const override { return place_.Left(); }
@@ -33,7 +36,8 @@ public:
     std::function<void(float x, float y)> onMouseMove;
     std::function<void()> onClick;
 
-    const QImage& Image() const { return image_; }
+    // What the box shows, strokes included.
+    QImage Image() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -42,7 +46,9 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
-    QImage image_;
+    Picture picture_;
+    // The working copy with its strokes, null until the first stroke.
+    QImage strokes_;
     TwipGeometry place_{this};
     // The second press of a double click is no click.
     bool inDoubleClick_ = false;

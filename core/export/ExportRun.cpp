@@ -1,5 +1,6 @@
 #include "export/ExportRun.h"
 
+#include "common/RunInOrder.h"
 #include "export/ChooseDestination.h"
 #include "export/HtmlOutput.h"
 #include "export/OverwritePreCheck.h"
@@ -85,6 +86,7 @@ bool cutSections(Session& session, SectionEncoder& encoder, const CutPlan& plan,
     }
     SessionState& s = session.state;
     SectionOutput output{session.clipContainer, s.SaveFormat, s.JPGComp, encoder};
+    output.threads = session.exportThreads > 0 ? session.exportThreads : EveryCore();
     const std::optional<SectionFailure> failure = WriteSections(output, plan, cells);
     if (failure) {
         session.ports.boxes.Show(

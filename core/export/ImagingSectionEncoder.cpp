@@ -6,21 +6,34 @@
 #include "imaging/cDIBSection.h"
 
 namespace sw {
+namespace {
 
-void ImagingSectionEncoder::SaveBmp(const Picture& clip, const std::string& fileName) {
-    SavePicture(clip, fileName);
-}
-
-bool ImagingSectionEncoder::SaveJpg(const Picture& clip, const std::string& fileName, i32 quality) {
-    // One surface a section, released before the next is made. A surface that
-    // could not be made has no buffer, and the writer refuses it.
+std::optional<EncodedFile> encodeJpg(const Picture& clip, i32 quality) {
+    // One surface a section, released once it is encoded. A surface that
+    // could not be made has no buffer, and the encoder refuses it.
     cDIBSection surface;
     surface.CreateFromPicture(clip);
     try {
-        return WriteJPGFile(surface, fileName, quality);
+        return EncodeJPG(surface, quality);
     } catch (const JpegWriteError&) {
-        return false;
+        return std::nullopt;
     }
+}
+
+} // namespace
+
+std::optional<EncodedFile> ImagingSectionEncoder::Encode(const Picture& clip,
+                                                         const std::string& fileName,
+                                                         const std::string& saveFormat,
+                                                         i32 quality) {
+    if (saveFormat == "BMP") {
+        return EncodeBmp(clip, fileName);
+    }
+    return encodeJpg(clip, quality);
+}
+
+void ImagingSectionEncoder::Write(const EncodedFile& file, const std::string& fileName) {
+    WriteEncodedFile(file, fileName);
 }
 
 } // namespace sw

@@ -4,11 +4,13 @@
 
 namespace sw {
 
-// The real writers: SavePicture for BMP, a new surface and WriteJPGFile for JPG.
+// The real writers: the BMP file of the picture for "BMP", a new surface
+// encoded as a JPG file for any other format.
 class ImagingSectionEncoder : public SectionEncoder {
 public:
-    void SaveBmp(const Picture& clip, const std::string& fileName) override;
-    bool SaveJpg(const Picture& clip, const std::string& fileName, i32 quality) override;
+    std::optional<EncodedFile> Encode(const Picture& clip, const std::string& fileName,
+                                      const std::string& saveFormat, i32 quality) override;
+    void Write(const EncodedFile& file, const std::string& fileName) override;
 };
 
 } // namespace sw

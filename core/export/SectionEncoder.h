@@ -1,23 +1,31 @@
 #pragma once
 
 #include "common/Types.h"
+#include "imaging/EncodedFile.h"
 
+#include <optional>
 #include <string>
 
 namespace sw {
 
 class Picture;
 
-// Writes one clipped section to its file: the seam between the run and the
-// imaging writers, so that a test can make any section fail.
+// Turns one clipped section into its file: the seam between the run and the
+// imaging writers, so that a test can make any section fail and another
+// program can add formats. Encoding and writing are apart so that sections
+// can be encoded on every core while their files are written in order.
 class SectionEncoder {
 public:
     virtual ~SectionEncoder() = default;
-    // The BMP road; throws FileWriteError when the file cannot be written.
-    virtual void SaveBmp(const Picture& clip, const std::string& fileName) = 0;
-    // The JPG road through a new surface; false when the encoder fails,
-    // FileWriteError when the file cannot be written.
-    virtual bool SaveJpg(const Picture& clip, const std::string& fileName, i32 quality) = 0;
+    // The bytes of the section's file in the run's format: "BMP" exactly is
+    // the BMP road, anything else the JPG road at `quality`. Nothing when the
+    // encoder refuses the clip; a clip that cannot be saved at all throws
+    // FileWriteError naming `fileName`. Called on several threads at once.
+    virtual std::optional<EncodedFile> Encode(const Picture& clip, const std::string& fileName,
+                                              const std::string& saveFormat, i32 quality) = 0;
+    // Puts the bytes in place under the name; called on the run's thread in
+    // section order. A file that cannot be written throws FileWriteError.
+    virtual void Write(const EncodedFile& file, const std::string& fileName) = 0;
 };
 
 } // namespace sw

@@ -3,6 +3,8 @@
 #include "export/CutPlan.h"
 #include "export/SectionCells.h"
 
+#include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -11,7 +13,7 @@ namespace sw {
 class ClipContainer;
 class SectionEncoder;
 
-// Why a section could not be written.
+// Why the writing of the sections ended before the last one.
 struct SectionFailure {
     enum class Kind {
         // The JPEG encoder refused the section.
@@ -20,26 +22,40 @@ struct SectionFailure {
         File,
         // The section could not be cut from the picture.
         Clip,
+        // The user stopped the run; no file failed.
+        Cancelled,
     };
     Kind kind = Kind::Encoder;
     std::string path;
     std::string reason;
 };
 
-// What the writing of one run uses: the clean picture, the format and quality, the writers.
+// What the writing of one run uses: the clean picture, the format and quality,
+// the writers, the threads that encode, and who hears of each finished section.
 struct SectionOutput {
+    SectionOutput(ClipContainer& clip, const std::string& format, i32 jpgQuality,
+                  SectionEncoder& writers)
+        : clipContainer(clip), saveFormat(format), quality(jpgQuality), encoder(writers) {}
+
     ClipContainer& clipContainer;
     const std::string& saveFormat;
     i32 quality;
     SectionEncoder& encoder;
+    // Sections encoded at once. With 1 each section is encoded on the run's
+    // thread just before its file is written; with more, later sections are
+    // encoded ahead while files are written. Files, cells and failures are the
+    // same either way.
+    int threads = 1;
+    // Called on the run's thread after each section in plan order (its file
+    // written, or none for a section without area), with the number of
+    // sections done so far; false ends the run there as cancelled.
+    std::function<bool(const SectionRect& section, std::size_t done)> afterSection;
 };
 
-// Writes one section and stores its cell; a section without area inside the
-// picture writes no file and gets the empty cell.
-std::optional<SectionFailure> WriteSection(SectionOutput& output, const SectionRect& section,
-                                           SectionCells& cells);
-
-// Writes the sections in plan order and stops at the first failure.
+// Writes the sections in plan order and stops at the first failure: the files
+// before it are written, none after it. A section without area inside the
+// picture writes no file and gets the empty cell; every other section's cell
+// is stored once its file is written.
 std::optional<SectionFailure> WriteSections(SectionOutput& output, const CutPlan& plan,
                                             SectionCells& cells);
 

@@ -1,6 +1,5 @@
 #include "imaging/BmpWriter.h"
 
-#include "common/AtomicFile.h"
 #include "common/FileWriteError.h"
 #include "imaging/Picture.h"
 
@@ -64,7 +63,7 @@ void putRows(std::vector<std::uint8_t>& out, const Picture& picture) {
 
 } // namespace
 
-void SavePicture(const Picture& picture, const std::string& fileName) {
+EncodedFile EncodeBmp(const Picture& picture, const std::string& fileName) {
     if (picture.IsEmpty()) {
         throw FileWriteError(fileName, "there is no picture to save");
     }
@@ -73,13 +72,15 @@ void SavePicture(const Picture& picture, const std::string& fileName) {
     if (imageSize + kPixelOffset > std::numeric_limits<std::uint32_t>::max()) {
         throw FileWriteError(fileName, "the picture is too large for a BMP file");
     }
-    std::vector<std::uint8_t> bytes;
-    bytes.reserve(kPixelOffset + imageSize);
-    putHeaders(bytes, picture, static_cast<std::uint32_t>(imageSize));
-    putRows(bytes, picture);
-    AtomicFile file(fileName);
-    file.Write(bytes.data(), bytes.size());
-    file.Commit();
+    EncodedFile file;
+    file.bytes.reserve(kPixelOffset + imageSize);
+    putHeaders(file.bytes, picture, static_cast<std::uint32_t>(imageSize));
+    putRows(file.bytes, picture);
+    return file;
+}
+
+void SavePicture(const Picture& picture, const std::string& fileName) {
+    WriteEncodedFile(EncodeBmp(picture, fileName), fileName);
 }
 
 } // namespace sw

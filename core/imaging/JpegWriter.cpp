@@ -1,15 +1,12 @@
 #include "imaging/JpegWriter.h"
 
-#include "common/AtomicFile.h"
 #include "common/ProgramName.h"
 #include "imaging/JpegWriteError.h"
 #include "imaging/cDIBSection.h"
 
-#include <fcntl.h>
 #include <limits>
 #include <memory>
 #include <optional>
-#include <sys/stat.h>
 #include <turbojpeg.h>
 
 namespace sw {
@@ -108,34 +105,20 @@ unsigned long encode(EncoderCache& cache, const cDIBSection& surface, i32 qualit
     return size;
 }
 
-// A replaced file keeps the access and modification times of the old one.
-void keepTimes(const std::optional<struct stat>& old, const std::string& path) {
-    if (!old) {
-        return;
-    }
-    const struct timespec times[2] = {old->st_atim, old->st_mtim};
-    ::utimensat(AT_FDCWD, path.c_str(), times, 0);
-}
-
-std::optional<struct stat> existingFile(const std::string& path) {
-    struct stat facts {};
-    if (::stat(path.c_str(), &facts) != 0 || !S_ISREG(facts.st_mode)) {
-        return std::nullopt;
-    }
-    return facts;
-}
-
 } // namespace
 
-bool WriteJPGFile(const cDIBSection& surface, const std::string& fileName, i32 quality) {
+EncodedFile EncodeJPG(const cDIBSection& surface, i32 quality) {
     EncoderCache& cache = threadEncoder();
-    // Encoded first, in memory: a refused or failed encode leaves the disk alone.
     const unsigned long size = encode(cache, surface, quality);
-    const std::optional<struct stat> old = existingFile(fileName);
-    AtomicFile file(fileName);
-    file.Write(cache.buffer.get(), size);
-    keepTimes(old, file.TemporaryPath());
-    file.Commit();
+    EncodedFile file;
+    file.bytes.assign(cache.buffer.get(), cache.buffer.get() + size);
+    file.keepsReplacedTimes = true;
+    return file;
+}
+
+bool WriteJPGFile(const cDIBSection& surface, const std::string& fileName, i32 quality) {
+    // Encoded first, in memory: a refused or failed encode leaves the disk alone.
+    WriteEncodedFile(EncodeJPG(surface, quality), fileName);
     return true;
 }
 

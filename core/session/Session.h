@@ -14,6 +14,9 @@ struct Session {
     SessionState state;
     ClipContainer clipContainer;
     Ports& ports;
+    // Threads that encode sections at once in an export; 0 means one for
+    // every core. The files and messages do not depend on it.
+    int exportThreads = 0;
 };
 
 } // namespace sw

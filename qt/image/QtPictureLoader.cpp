@@ -1,5 +1,6 @@
 #include "qt/image/QtPictureLoader.h"
 
+#include "imaging/JpegReader.h"
 #include "imaging/PlainBmpReader.h"
 #include "qt/image/PictureFileCheck.h"
 
@@ -103,6 +104,35 @@ LoadedPicture loadPlainBmp(const std::string& path, const PlainBmp& layout) {
     return result;
 }
 
+// A JPG is decoded by TurboJPEG straight into the picture's rows: one copy of
+// the pixels instead of Qt's 32-bit image beside the picture. The checks and
+// their words are those of the general road. CMYK pictures, which TurboJPEG
+// cannot turn into blue, green and red, are left to Qt (nothing here).
+std::optional<LoadedPicture> loadJpeg(const std::string& path) {
+    JpegReader reader(path);
+    if (!reader.HeaderRead()) {
+        return failure(*sizeProblem(QSize()));
+    }
+    if (const std::optional<std::string> problem =
+            sizeProblem(QSize(reader.Width(), reader.Height()))) {
+        return failure(*problem);
+    }
+    if (const std::optional<std::string> problem = TruncationProblem(path, "jpeg")) {
+        return failure(*problem);
+    }
+    if (reader.FourColour()) {
+        return std::nullopt;
+    }
+    std::string error;
+    std::optional<Picture> picture = reader.Decode(error);
+    if (!picture) {
+        return failure("the file is damaged: its picture cannot be decoded (" + error + ")");
+    }
+    LoadedPicture result;
+    result.picture = std::move(*picture);
+    return result;
+}
+
 } // namespace
 
 LoadedPicture QtPictureLoader::LoadPicture(const std::string& path) {
@@ -112,6 +142,11 @@ LoadedPicture QtPictureLoader::LoadPicture(const std::string& path) {
     }
     if (const std::optional<PlainBmp> plain = ProbePlainBmp(path)) {
         return loadPlainBmp(path, *plain);
+    }
+    if (JpegReader::IsJpeg(path)) {
+        if (std::optional<LoadedPicture> loaded = loadJpeg(path)) {
+            return std::move(*loaded);
+        }
     }
     allowPicturesUpToTheBudget();
     QImageReader reader(name);

@@ -6,8 +6,9 @@
 
 namespace sw {
 
-// Decodes BMP, JPG and GIF files (the first frame of an animation) with Qt's
-// image readers. The size is read from the header first: a picture larger
+// Decodes BMP, JPG and GIF files (the first frame of an animation): plain
+// 24-bit BMP files and JPG files straight into the picture, the rest with
+// Qt's image readers. The size is read from the header first: a picture larger
 // than the program can handle is refused before any pixel memory is taken.
 // Works without a QGuiApplication.
 class QtPictureLoader : public PictureLoader {

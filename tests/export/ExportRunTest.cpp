@@ -49,11 +49,11 @@ struct ExportRunTest : testing::Test {
 };
 
 TEST_F(ExportRunTest, AFailedJpgAtTheLastSectionEndsTheRunWithoutHtmlOrClearQuestion) {
-    encoder.failAt = 6;
+    encoder.failOn = name("Tile6.jpg");
     answer("save", {name("Tile.jpg")});
     RunExport(session, encoder);
     ports.answers.CheckAllUsed();
-    EXPECT_EQ(encoder.calls.size(), 6u);
+    EXPECT_EQ(encoder.calls.size(), 5u);
     EXPECT_TRUE(logged("box title=\"Error!\" text=\"JPG File Creation Error!!!\" icon=stop "
                        "buttons=OK -> OK\nform pointer=Default\n"));
     EXPECT_FALSE(logged("finish show"));

@@ -9,8 +9,10 @@
 
 namespace sw {
 
-// Records every section handed to it, and can fail at the n-th (from 1): as
-// the encoder on the JPG road, as a file that cannot be written on the BMP road.
+// Records every section whose file is written, in the order of writing, and
+// can fail the section of one file name: as the encoder on the JPG road, as a
+// file that cannot be written on the BMP road. Sections may be encoded on
+// several threads at once.
 class RecordingEncoder : public SectionEncoder {
 public:
     struct Call {
@@ -21,25 +23,32 @@ public:
         std::uint32_t topLeft;
     };
     std::vector<Call> calls;
-    std::size_t failAt = 0;
+    std::string failOn;
 
-    void SaveBmp(const Picture& clip, const std::string& fileName) override {
-        record("bmp", clip, fileName);
-    }
-    bool SaveJpg(const Picture& clip, const std::string& fileName, i32 quality) override {
-        return record("jpg" + std::to_string(quality), clip, fileName);
-    }
-
-private:
-    bool record(const std::string& road, const Picture& clip, const std::string& fileName) {
-        calls.push_back({road, fileName, clip.Width(), clip.Height(), clip.PixelAt(0, 0)});
-        if (calls.size() != failAt) {
-            return true;
+    std::optional<EncodedFile> Encode(const Picture& clip, const std::string& fileName,
+                                      const std::string& saveFormat, i32 quality) override {
+        const std::string road = saveFormat == "BMP" ? "bmp" : "jpg" + std::to_string(quality);
+        if (fileName == failOn && road != "bmp") {
+            return std::nullopt;
         }
-        if (road == "bmp") {
+        const std::string record = road + "|" + std::to_string(clip.Width()) + "|" +
+                                   std::to_string(clip.Height()) + "|" +
+                                   std::to_string(clip.PixelAt(0, 0));
+        return EncodedFile{{record.begin(), record.end()}, false};
+    }
+
+    void Write(const EncodedFile& file, const std::string& fileName) override {
+        if (fileName == failOn) {
             throw FileWriteError(fileName, "the disk is full");
         }
-        return false;
+        const std::string record(file.bytes.begin(), file.bytes.end());
+        std::vector<std::string> fields;
+        for (std::size_t from = 0, bar = 0; bar != std::string::npos; from = bar + 1) {
+            bar = record.find('|', from);
+            fields.push_back(record.substr(from, bar - from));
+        }
+        calls.push_back({fields[0], fileName, std::stoi(fields[1]), std::stoi(fields[2]),
+                         static_cast<std::uint32_t>(std::stoul(fields[3]))});
     }
 };
 

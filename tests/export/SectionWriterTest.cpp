@@ -40,9 +40,11 @@ struct Writing {
     std::string format = "JPG";
     RecordingEncoder encoder;
     SectionCells cells;
+    int threads = 1;
 
     std::optional<SectionFailure> write(const CutPlan& plan) {
         SectionOutput output{clip, format, 75, encoder};
+        output.threads = threads;
         return WriteSections(output, plan, cells);
     }
 };
@@ -70,14 +72,19 @@ TEST(WriteSections, HandsEachClipOfTheCleanPictureToTheRoadOfItsFormat) {
 }
 
 TEST(WriteSections, StopsAtTheFirstFailureWhereverItStands) {
-    for (const std::size_t failing : {1u, 3u, 6u}) {
-        Writing w;
-        w.encoder.failAt = failing;
-        const std::optional<SectionFailure> failure = w.write(planOf({50, 120}, {100}));
-        ASSERT_TRUE(failure);
-        EXPECT_EQ(failure->kind, SectionFailure::Kind::Encoder);
-        EXPECT_EQ(w.encoder.calls.size(), failing) << "no section after the failed one is tried";
-        EXPECT_EQ(w.cells.UBound(), static_cast<int>(failing) - 1);
+    for (const int failing : {1, 3, 6}) {
+        for (const int threads : {1, 2, 4}) {
+            Writing w;
+            w.encoder.failOn = "out/Tile" + std::to_string(failing) + ".jpg";
+            w.threads = threads;
+            const std::optional<SectionFailure> failure = w.write(planOf({50, 120}, {100}));
+            ASSERT_TRUE(failure);
+            EXPECT_EQ(failure->kind, SectionFailure::Kind::Encoder);
+            EXPECT_EQ(failure->path, w.encoder.failOn);
+            EXPECT_EQ(w.encoder.calls.size(), static_cast<std::size_t>(failing) - 1)
+                << "no section after the failed one is written, " << threads << " threads";
+            EXPECT_EQ(w.cells.UBound(), failing - 1);
+        }
     }
 }
 
@@ -105,13 +112,19 @@ TEST(ImagingSectionEncoder, AnEncoderFailureIsAFailedWriteAndLeavesNoFile) {
         (std::filesystem::temp_directory_path() / "slicewright-refused.jpg").string();
     std::filesystem::remove(path);
     ImagingSectionEncoder encoder;
-    EXPECT_FALSE(encoder.SaveJpg(Picture::Filled(8, 8, 0x336699), path, 0));
+    const Picture clip = Picture::Filled(8, 8, 0x336699);
+    EXPECT_FALSE(encoder.Encode(clip, path, "JPG", 0));
     EXPECT_FALSE(std::filesystem::exists(path));
-    EXPECT_TRUE(encoder.SaveJpg(Picture::Filled(8, 8, 0x336699), path, 90));
+    const std::optional<EncodedFile> jpg = encoder.Encode(clip, path, "JPG", 90);
+    ASSERT_TRUE(jpg);
+    EXPECT_FALSE(std::filesystem::exists(path)) << "encoding alone writes nothing";
+    encoder.Write(*jpg, path);
     EXPECT_TRUE(std::filesystem::exists(path));
     std::filesystem::remove(path);
-    EXPECT_THROW(encoder.SaveBmp(Picture::Filled(8, 8, 0), "/nonexistent-folder/x.bmp"),
-                 FileWriteError);
+    const std::optional<EncodedFile> bmp = encoder.Encode(clip, path, "BMP", 0);
+    ASSERT_TRUE(bmp);
+    EXPECT_THROW(encoder.Write(*bmp, "/nonexistent-folder/x.bmp"), FileWriteError);
+    EXPECT_THROW(encoder.Encode(Picture(), "x.bmp", "BMP", 0), FileWriteError);
 }
 
 } // namespace

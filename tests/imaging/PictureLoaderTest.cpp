@@ -1,5 +1,6 @@
 #include "common/Types.h"
 #include "qt/image/QtPictureLoader.h"
+#include "tests/imaging/FileBytes.h"
 #include "tests/imaging/ImageMagick.h"
 #include "tests/imaging/TestPictures.h"
 
@@ -14,17 +15,7 @@
 namespace sw {
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
-
-Bytes readBytes(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-void writeBytes(const std::string& path, const Bytes& bytes) {
-    std::ofstream(path, std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<long>(bytes.size()));
-}
+using test::Bytes;
 
 void putLe(Bytes& out, std::uint32_t value, int count) {
     for (int i = 0; i < count; ++i) {
@@ -60,12 +51,12 @@ void writeRle4(const std::string& path) {
         putLe(out, (i * 50) << 16 | (255 - i * 10) << 8 | (i * 15), 4);
     }
     out.insert(out.end(), image.begin(), image.end());
-    writeBytes(path, out);
+    test::WriteBytes(path, out);
 }
 
 // The same picture with its rows stored top-down (a negative height).
 void writeTopDown(const std::string& bottomUpBmp, const std::string& path) {
-    Bytes bytes = readBytes(bottomUpBmp);
+    Bytes bytes = test::ReadBytes(bottomUpBmp);
     const std::int32_t width = bytes[18] | bytes[19] << 8;
     const std::int32_t height = bytes[22] | bytes[23] << 8;
     const std::size_t stride = (3 * static_cast<std::size_t>(width) + 3) & ~std::size_t{3};
@@ -78,7 +69,7 @@ void writeTopDown(const std::string& bottomUpBmp, const std::string& path) {
         const auto start = bytes.begin() + 54 + static_cast<long>(stride * row);
         flipped.insert(flipped.end(), start, start + static_cast<long>(stride));
     }
-    writeBytes(path, flipped);
+    test::WriteBytes(path, flipped);
 }
 
 int largestDifference(const Picture& ours, const test::RgbImage& theirs) {
@@ -188,7 +179,7 @@ TEST_P(LoaderRefuses, WithAReasonInPlainWords) {
     const test::ScratchFolder folder;
     const BadFile& bad = GetParam();
     if (bad.exists) {
-        writeBytes(folder.Path(bad.name), bad.contents);
+        test::WriteBytes(folder.Path(bad.name), bad.contents);
     }
     const LoadedPicture loaded = QtPictureLoader().LoadPicture(folder.Path(bad.name));
     EXPECT_EQ(loaded.error, bad.error);
@@ -199,7 +190,7 @@ TEST_P(LoaderRefuses, WithAReasonInPlainWords) {
 Bytes firstHalfOf(const std::string& name) {
     const test::ScratchFolder folder;
     test::Convert("rose: '" + folder.Path(name) + "'");
-    Bytes bytes = readBytes(folder.Path(name));
+    Bytes bytes = test::ReadBytes(folder.Path(name));
     bytes.resize(bytes.size() / 2);
     return bytes;
 }
