@@ -44,6 +44,8 @@ std::string failureText(const SectionFailure& failure) {
         return "cannot be written: " + failure.reason;
     case SectionFailure::Kind::Clip:
         return "cannot be cut from the picture: " + failure.reason;
+    case SectionFailure::Kind::Cancelled:
+        break;
     }
     return failure.reason;
 }
@@ -161,24 +163,27 @@ bool CutRun::writePieces(const PictureJob& job, const Picture& picture, Progress
     PieceEncoder encoder(job.format);
     const std::string saveFormat = encoder.SaveFormat();
     SectionOutput output{clip, saveFormat, options_.quality, encoder};
+    output.threads = options_.jobs;
     std::vector<std::string> written;
-    for (const SectionRect& section : job.plan.Sections) {
-        if (auto failure = WriteSection(output, section, cells)) {
-            progress.Clear();
-            fail(failure->path, failureText(*failure));
-            err_ << kProgram << ": " << job.picture << ": " << written.size()
-                 << " piece(s) were written before it:\n";
-            for (const std::string& file : written) {
-                err_ << "  " << file << "\n";
-            }
-            return false;
-        }
+    output.afterSection = [&](const SectionRect& section, std::size_t) {
         if (HasArea(job.layout.pieces[static_cast<std::size_t>(section.Number - 1)])) {
             written.push_back(section.FileName);
         }
         progress.Step(job.picture);
+        return true;
+    };
+    const std::optional<SectionFailure> failure = WriteSections(output, job.plan, cells);
+    if (!failure) {
+        return true;
     }
-    return true;
+    progress.Clear();
+    fail(failure->path, failureText(*failure));
+    err_ << kProgram << ": " << job.picture << ": " << written.size()
+         << " piece(s) were written before it:\n";
+    for (const std::string& file : written) {
+        err_ << "  " << file << "\n";
+    }
+    return false;
 }
 
 bool CutRun::writeSideFiles(const PictureJob& job, const SectionCells& cells) {

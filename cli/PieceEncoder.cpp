@@ -8,25 +8,19 @@
 
 namespace sw {
 
-void PieceEncoder::SaveBmp(const Picture& clip, const std::string& fileName) {
-    imaging_.SaveBmp(clip, fileName);
+std::optional<EncodedFile> PieceEncoder::Encode(const Picture& clip, const std::string& fileName,
+                                                const std::string& saveFormat, i32 quality) {
+    if (format_ == PieceFormat::Png) {
+        return EncodePng(clip, fileName);
+    }
+    if (format_ == PieceFormat::Webp) {
+        return EncodeWebp(clip, fileName, quality);
+    }
+    return imaging_.Encode(clip, fileName, saveFormat, quality);
 }
 
-bool PieceEncoder::SaveJpg(const Picture& clip, const std::string& fileName, i32 quality) {
-    switch (format_) {
-    case PieceFormat::Png:
-        WritePngFile(clip, fileName);
-        return true;
-    case PieceFormat::Webp:
-        WriteWebpFile(clip, fileName, quality);
-        return true;
-    case PieceFormat::Bmp:
-        SaveBmp(clip, fileName);
-        return true;
-    case PieceFormat::Jpg:
-        break;
-    }
-    return imaging_.SaveJpg(clip, fileName, quality);
+void PieceEncoder::Write(const EncodedFile& file, const std::string& fileName) {
+    imaging_.Write(file, fileName);
 }
 
 Picture ReadPiece(const std::string& fileName, PieceFormat format) {

@@ -5,9 +5,8 @@
 
 namespace sw {
 
-// The section writers of one run in the chosen format. The core's run calls
-// SaveBmp for BMP and SaveJpg for any other format (with the quality), so
-// PNG and WebP come in through SaveJpg beside JPG.
+// The section encoders of one run in the chosen format: the window's BMP and
+// JPG roads, and PNG and WebP beside them.
 class PieceEncoder : public SectionEncoder {
 public:
     explicit PieceEncoder(PieceFormat format) : format_(format) {}
@@ -15,8 +14,9 @@ public:
     // What the core's run is told the format is: "BMP" takes the BMP road.
     std::string SaveFormat() const { return format_ == PieceFormat::Bmp ? "BMP" : "JPG"; }
 
-    void SaveBmp(const Picture& clip, const std::string& fileName) override;
-    bool SaveJpg(const Picture& clip, const std::string& fileName, i32 quality) override;
+    std::optional<EncodedFile> Encode(const Picture& clip, const std::string& fileName,
+                                      const std::string& saveFormat, i32 quality) override;
+    void Write(const EncodedFile& file, const std::string& fileName) override;
 
 private:
     PieceFormat format_;

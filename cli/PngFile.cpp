@@ -35,7 +35,7 @@ void check(int status, const std::string& fileName) {
     }
 }
 
-std::string encode(const Picture& picture, const std::string& fileName) {
+std::vector<std::uint8_t> encode(const Picture& picture, const std::string& fileName) {
     Context context(spng_ctx_new(SPNG_CTX_ENCODER));
     if (!context) {
         throw FileWriteError(fileName, "out of memory for the PNG encoder");
@@ -61,16 +61,18 @@ std::string encode(const Picture& picture, const std::string& fileName) {
     int status = 0;
     std::unique_ptr<void, BufferDeleter> png(spng_get_png_buffer(ctx, &size, &status));
     check(status, fileName);
-    return std::string(static_cast<const char*>(png.get()), size);
+    const auto* bytes = static_cast<const std::uint8_t*>(png.get());
+    return std::vector<std::uint8_t>(bytes, bytes + size);
 }
 
 } // namespace
 
+EncodedFile EncodePng(const Picture& picture, const std::string& fileName) {
+    return EncodedFile{encode(picture, fileName), false};
+}
+
 void WritePngFile(const Picture& picture, const std::string& fileName) {
-    const std::string bytes = encode(picture, fileName);
-    AtomicFile file(fileName);
-    file.Write(bytes);
-    file.Commit();
+    WriteEncodedFile(EncodePng(picture, fileName), fileName);
 }
 
 Picture ReadPngFile(const std::string& fileName) {

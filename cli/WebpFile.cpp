@@ -21,7 +21,7 @@ using WebpBuffer = std::unique_ptr<std::uint8_t, WebpDeleter>;
 
 } // namespace
 
-void WriteWebpFile(const Picture& picture, const std::string& fileName, i32 quality) {
+EncodedFile EncodeWebp(const Picture& picture, const std::string& fileName, i32 quality) {
     const int width = picture.Width();
     const int height = picture.Height();
     if (width > kMaxWebpSide || height > kMaxWebpSide) {
@@ -42,9 +42,11 @@ void WriteWebpFile(const Picture& picture, const std::string& fileName, i32 qual
     if (size == 0) {
         throw FileWriteError(fileName, "the WebP encoder failed");
     }
-    AtomicFile file(fileName);
-    file.Write(encoded, size);
-    file.Commit();
+    return EncodedFile{std::vector<std::uint8_t>(encoded, encoded + size), false};
+}
+
+void WriteWebpFile(const Picture& picture, const std::string& fileName, i32 quality) {
+    WriteEncodedFile(EncodeWebp(picture, fileName, quality), fileName);
 }
 
 Picture ReadWebpFile(const std::string& fileName) {
