@@ -7,6 +7,7 @@
 #   check-cut.sh GROUP CUT RUNNER DATA WORKDIR
 set -euo pipefail
 
+render_page=$(cd "$(dirname "$0")/.." && pwd)/render-in-chromium.sh
 group=$1
 cut=$2
 runner=$3
@@ -16,7 +17,6 @@ work=$5
 convert=/usr/bin/convert
 compare=/usr/bin/compare
 identify=/usr/bin/identify
-chromium=/usr/bin/chromium
 jq=/usr/bin/jq
 
 fail() {
@@ -98,19 +98,7 @@ window_table() {
 
 # render PAGE SHOT WIDTH HEIGHT MARGIN: the page as Chromium shows it, cut to the picture.
 render() {
-    local page=$1 shot=$2 width=$3 height=$4 margin=$5
-    [[ -x $chromium ]] || fail "$chromium is missing (package chromium)"
-    local profile
-    profile=$(mktemp -d)
-    "$chromium" --headless --no-sandbox --disable-gpu --disable-quic --no-first-run \
-        --disable-background-networking --disable-component-update --disable-sync \
-        --user-data-dir="$profile" --hide-scrollbars --force-device-scale-factor=1 \
-        --window-size=$((width + 2 * margin)),$((height + 2 * margin)) \
-        --screenshot="$work/screen.png" "file://$page" > chromium.log 2>&1 || true
-    rm -rf "$profile"
-    [[ -s screen.png ]] || fail "chromium made no screenshot of $page: $(tail -3 chromium.log)"
-    "$convert" screen.png -crop "${width}x${height}+${margin}+${margin}" +repage "$shot"
-    rm -f screen.png
+    "$render_page" "$@" || fail "no rendering of $1"
 }
 
 same_pixels() {
