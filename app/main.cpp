@@ -1,13 +1,13 @@
 // Slicewright: divides a picture into a grid of sections.
 #include "qt/ApplicationIcon.h"
+#include "qt/GuardedApplication.h"
 #include "qt/MainWindow.h"
 #include "qt/image/QtPictureLoader.h"
 
-#include <QApplication>
 #include <QScreen>
 
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
+    sw::qt::GuardedApplication application(argc, argv);
     QApplication::setApplicationName("Slicewright");
     QApplication::setApplicationVersion("2.5.0");
     QApplication::setWindowIcon(sw::qt::ApplicationIcon());

@@ -1,6 +1,7 @@
 #include "qt/MainWindow.h"
 
 #include "dialogs/DialogCommands.h"
+#include "qt/OperationFailed.h"
 #include "qt/QtText.h"
 #include "window/DrawModeCommands.h"
 #include "window/EditCommands.h"
@@ -49,7 +50,9 @@ MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath)
                                                      shell_,
                                                      registry_,
                                                      sysInfo_} {
-    aboutWindow_.raise = [this](void (frmAbout::*event)()) { RaiseAboutEvent(session_, event); };
+    aboutWindow_.raise = [this](void (frmAbout::*event)()) {
+        RunOperation("The about window", [this, event] { RaiseAboutEvent(session_, event); });
+    };
     setWindowTitle("Slicewright");
     setupMenus();
     setupClientArea();
@@ -58,9 +61,11 @@ MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath)
     Form_Load(session_);
 }
 
-void MainWindow::run(void (*handler)(Session&)) {
+// Every handler runs under the name the user knows it by, so that an
+// exception escaping it tells the user which operation broke off.
+void MainWindow::run(const std::string& operation, void (*handler)(Session&)) {
     if (handler != nullptr) {
-        handler(session_);
+        RunOperation(operation, [this, handler] { handler(session_); });
     }
 }
 
@@ -109,9 +114,11 @@ void MainWindow::setupScrollBars() {
 // A value moved by the thumb is a Scroll, any other move a Change; letting go
 // of the thumb is a Change as well.
 void MainWindow::connectBar(QScrollBar* bar, void (*change)(Session&), void (*scroll)(Session&)) {
-    connect(bar, &QScrollBar::valueChanged, this,
-            [this, bar, change, scroll] { (bar->isSliderDown() ? scroll : change)(session_); });
-    connect(bar, &QScrollBar::sliderReleased, this, [this, change] { change(session_); });
+    connect(bar, &QScrollBar::valueChanged, this, [this, bar, change, scroll] {
+        run("Scrolling the picture", bar->isSliderDown() ? scroll : change);
+    });
+    connect(bar, &QScrollBar::sliderReleased, this,
+            [this, change] { run("Scrolling the picture", change); });
 }
 
 // The stored layout, in twips: a client area of 3405 x 5325 under the menu
@@ -142,14 +149,20 @@ QAction* MainWindow::addMenuEntry(QMenu* menu, const MenuEntry& entry) {
     action->setCheckable(isCheckable(*entry.item));
     action->setChecked(entry.checked);
     const Command handler = entry.command;
-    connect(action, &QAction::triggered, this, [this, handler] { run(handler); });
+    // The remembered picture's item has the picture's path for its caption.
+    const std::string operation =
+        *entry.item == Item::mnuLastCut ? "Opening the last picture" : entry.caption;
+    connect(action, &QAction::triggered, this,
+            [this, operation, handler] { run(operation, handler); });
     return action;
 }
 
 QAction* MainWindow::addMenuBarCommand(const MenuEntry& entry) {
     QAction* action = menuBar()->addAction(ToQ(entry.caption));
     const Command handler = entry.command;
-    connect(action, &QAction::triggered, this, [this, handler] { run(handler); });
+    const std::string operation = entry.caption;
+    connect(action, &QAction::triggered, this,
+            [this, operation, handler] { run(operation, handler); });
     return action;
 }
 
@@ -193,8 +206,10 @@ void MainWindow::setupToolbar() {
         QAction* button = tlbrMain_->addAction(ToQ(entry.toolTip));
         button->setToolTip(ToQ(entry.toolTip));
         const int index = entry.index;
-        connect(button, &QAction::triggered, this,
-                [this, index] { tlbrMain_ButtonClick(session_, index); });
+        const std::string operation = entry.toolTip;
+        connect(button, &QAction::triggered, this, [this, operation, index] {
+            RunOperation(operation, [this, index] { tlbrMain_ButtonClick(session_, index); });
+        });
         controls_.RegisterToolbarButton(index, button);
     }
     controls_.SetToolbarButtonEnabled(9, false);
@@ -208,13 +223,15 @@ void MainWindow::stretchToolbar() {
 }
 
 void MainWindow::connectPicture() {
-    picActual_->onMouseMove = [this](float x, float y) { picActual_MouseMove(session_, x, y); };
-    picActual_->onClick = [this] { picActual_Click(session_); };
+    picActual_->onMouseMove = [this](float x, float y) {
+        RunOperation("Following the pointer", [&] { picActual_MouseMove(session_, x, y); });
+    };
+    picActual_->onClick = [this] { run("Drawing a line", picActual_Click); };
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == area_ && event->type() == QEvent::MouseMove) {
-        Form_MouseMove(session_);
+        run("Following the pointer", Form_MouseMove);
     }
     return QMainWindow::eventFilter(watched, event);
 }
@@ -225,7 +242,7 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     stretchToolbar();
     if (event->size() != event->oldSize()) {
-        Form_Resize(session_);
+        run("Laying out the window", Form_Resize);
     }
 }
 
@@ -239,13 +256,13 @@ void MainWindow::changeEvent(QEvent* event) {
     const auto* change = static_cast<QWindowStateChangeEvent*>(event);
     const bool wasMinimised = change->oldState() & Qt::WindowMinimized;
     if (wasMinimised != isMinimized()) {
-        Form_Resize(session_);
+        run("Laying out the window", Form_Resize);
     }
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    Form_Unload(session_);
     event->accept();
+    run("Closing the window", Form_Unload);
 }
 
 } // namespace sw::qt

@@ -60,7 +60,7 @@ private:
     void stretchToolbar();
     QAction* addMenuEntry(QMenu* menu, const MenuEntry& entry);
     QAction* addMenuBarCommand(const MenuEntry& entry);
-    void run(void (*handler)(Session&));
+    void run(const std::string& operation, void (*handler)(Session&));
 
     PictureCanvas* picActual_;
     QtMessageBoxes boxes_{this};

@@ -128,13 +128,15 @@ ScreenMetrics QtFormWindow::Screen() const {
 }
 
 void QtFormWindow::SetMousePointer(MousePointer pointer) {
+    // The pointer itself tells whether it is busy: an operation broken off by
+    // an exception may have left it so, and the event boundary put it back.
     const bool busy = pointer == MousePointer::Hourglass;
-    if (busy && !busy_) {
+    const bool shown = QApplication::overrideCursor() != nullptr;
+    if (busy && !shown) {
         QApplication::setOverrideCursor(Qt::WaitCursor);
-    } else if (!busy && busy_) {
+    } else if (!busy && shown) {
         QApplication::restoreOverrideCursor();
     }
-    busy_ = busy;
 }
 
 void QtFormWindow::Unload() {

@@ -4,6 +4,7 @@
 
 #include "imaging/Picture.h"
 #include "qt/QtSettingsStore.h"
+#include "tests/qt/FindWidgets.h"
 
 #include <QAction>
 #include <QApplication>
@@ -28,15 +29,6 @@ public:
     }
 };
 
-QAction* findAction(QWidget* window, const QString& text) {
-    for (QAction* action : window->findChildren<QAction*>()) {
-        if (action->text() == text) {
-            return action;
-        }
-    }
-    return nullptr;
-}
-
 } // namespace
 
 class MainWindowTest : public QObject {
@@ -51,13 +43,13 @@ private slots:
     void commandsStartAsTheStoredLayoutHasThem() {
         FixedLoader loader;
         qt::MainWindow window(loader, "/opt/slicewright");
-        QVERIFY(!findAction(&window, "Edit")->isEnabled());
-        QVERIFY(!findAction(&window, "Create Sections")->isEnabled());
-        QVERIFY(!findAction(&window, "Undo Last")->isEnabled());
-        QVERIFY(findAction(&window, "Horizontal Line")->isChecked());
-        QVERIFY(findAction(&window, "Black")->isChecked());
-        QVERIFY(!findAction(&window, "Red")->isChecked());
-        QVERIFY(findAction(&window, "Open")->isEnabled());
+        QVERIFY(!test::FindAction(window, "Edit")->isEnabled());
+        QVERIFY(!test::FindAction(window, "Create Sections")->isEnabled());
+        QVERIFY(!test::FindAction(window, "Undo Last")->isEnabled());
+        QVERIFY(test::FindAction(window, "Horizontal Line")->isChecked());
+        QVERIFY(test::FindAction(window, "Black")->isChecked());
+        QVERIFY(!test::FindAction(window, "Red")->isChecked());
+        QVERIFY(test::FindAction(window, "Open")->isEnabled());
         QVERIFY(!window.findChild<QToolBar*>()->isVisibleTo(&window));
         QCOMPARE(window.windowTitle(), QString("Slicewright"));
     }
@@ -66,7 +58,7 @@ private slots:
         FixedLoader loader;
         qt::MainWindow window(loader, "/opt/slicewright");
         window.show();
-        findAction(&window, "Exit")->trigger();
+        test::FindAction(window, "Exit")->trigger();
         QVERIFY(!window.isVisible());
         QSettings stored(config_.filePath("Corvane-Studio.ini"), QSettings::IniFormat);
         QCOMPARE(stored.value("Slicewright/LastOpenDir").toString(), QString("/opt/slicewright"));
@@ -82,7 +74,7 @@ private slots:
                                           "/home/ann/gone.jpg");
         FixedLoader loader;
         qt::MainWindow window(loader, "/opt/slicewright");
-        QAction* lastCut = findAction(&window, "/home/ann/gone.jpg");
+        QAction* lastCut = test::FindAction(window, "/home/ann/gone.jpg");
         QVERIFY(lastCut != nullptr);
         QVERIFY(lastCut->isVisible());
     }
@@ -140,7 +132,7 @@ private slots:
         }
         QCOMPARE(session.state.hLineCount, static_cast<i16>(1));
         QCOMPARE(session.state.hLines(1), static_cast<i16>(12));
-        QVERIFY(findAction(&window, "Undo Last")->isEnabled());
+        QVERIFY(test::FindAction(window, "Undo Last")->isEnabled());
     }
 
 private:
