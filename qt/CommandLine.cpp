@@ -25,7 +25,10 @@ CommandLine ReadCommandLine(const QStringList& arguments) {
     parser.setApplicationDescription(
         "Slicewright divides a picture into a grid of sections and writes every section as a "
         "numbered BMP or JPG file.");
-    const QCommandLineOption help = parser.addHelpOption();
+    // Not addHelpOption(): its --help-all lists Qt's own options, which this
+    // command line does not take.
+    const QCommandLineOption help({"h", "help"}, "Displays this help.");
+    parser.addOption(help);
     const QCommandLineOption version = parser.addVersionOption();
     parser.addPositionalArgument("PICTURE", "A BMP, JPG or GIF picture to open at start.",
                                  "[PICTURE]");

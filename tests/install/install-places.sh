@@ -19,7 +19,10 @@ for file in \
     "share/metainfo/$app_id.metainfo.xml" \
     "share/icons/hicolor/scalable/apps/$app_id.svg" \
     "share/icons/hicolor/48x48/apps/$app_id.png" \
-    "share/icons/hicolor/256x256/apps/$app_id.png"; do
+    "share/icons/hicolor/256x256/apps/$app_id.png" \
+    share/man/man1/slicewright.1.gz \
+    share/doc/slicewright/copyright \
+    share/doc/slicewright/changelog.Debian.gz; do
     [ -f "$usr/$file" ] || fail "not installed: /usr/$file"
 done
 [ -x "$usr/bin/slicewright" ] || fail "/usr/bin/slicewright is not executable"

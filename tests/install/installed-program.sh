@@ -3,17 +3,24 @@
 # named on its command line (here by a relative path) opens as if chosen in the
 # Open dialog, Help opens the installed page, and a picture that cannot be
 # opened brings the opening's message while the program stays up with none.
-# Run it under xvfb-run and tests/qt/with-window-manager.sh.
+# Run it under xvfb-run and tests/qt/with-window-manager.sh, with a build
+# folder (installed here into a temporary DESTDIR) or "/" for the program that
+# the package installed.
 set -euo pipefail
 . "$(dirname "$0")/common.sh"
-build=$1
+installation=$1
 data=$(cd "$2" && pwd)
 need_tools xdotool
 [ -n "${DISPLAY:-}" ] || fail "no X display: run this under xvfb-run"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-install_into "$build" "$work"
-program=$work/usr/bin/slicewright
+root=
+if [ "$installation" != / ]; then
+    root=$work
+    install_into "$installation" "$root"
+fi
+program=$root/usr/bin/slicewright
+[ -x "$program" ] || fail "$program is not installed"
 
 # The desktop's opener records what it is asked to open instead of opening it.
 mkdir -p "$work/opener"
@@ -36,7 +43,7 @@ sleep 1
 press "$window" alt Left Return
 sleep 1
 opened=$(cat "$work/opened" 2>/dev/null || true)
-[ "$opened" = "file://$work/usr/share/slicewright/help/MainHelp.htm" ] ||
+[ "$opened" = "file://$root/usr/share/slicewright/help/MainHelp.htm" ] ||
     fail "Help opened \"$opened\", not the installed page"
 close_program "$window" "$pid"
 [ "$(stored_setting LastPicture)" = "$data/small.bmp" ] ||
