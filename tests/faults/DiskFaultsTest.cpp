@@ -34,20 +34,6 @@ std::map<std::string, std::string> everyFile(const std::string& folder) {
     return files;
 }
 
-// Takes every byte left on the disk.
-void fillUp(const SmallTmpfs& disk) {
-    std::ofstream filler(disk.Path("filler"), std::ios::binary);
-    const std::string block(4096, 'f');
-    while (filler.write(block.data(), static_cast<std::streamsize>(block.size()))) {
-    }
-    filler.clear();
-    filler.close();
-    // What the stream buffered when the disk ran out goes byte by byte.
-    std::ofstream rest(disk.Path("filler"), std::ios::binary | std::ios::app);
-    while (rest.put('f') && rest.flush()) {
-    }
-}
-
 // The program with the plasma picture open, one line across it and the
 // table written to a file with the sections.
 class WritesOnADisk : public testing::Test {
@@ -89,7 +75,7 @@ TEST_F(WritesOnADisk, AFullDiskLeavesEverySectionTableAndLineFileAsItWas) {
     const SmallTmpfs disk(512 * 1024);
     exportTo(disk.Path("Tile.bmp"), {"answer box No"});
     saveLinesTo(disk.Path("lines.ple"), {});
-    fillUp(disk);
+    disk.FillUp();
     const auto before = everyFile(disk.Path());
     ASSERT_EQ(before.size(), 5u); // two sections, the table, the line file, the filler
 
@@ -107,7 +93,7 @@ TEST_F(WritesOnADisk, ATableThatNoLongerFitsLeavesTheOldTable) {
     exportTo(disk.Path("Tile.bmp"), {"answer box No"});
     const std::string oldTable = contentsOf(disk.Path("Tile.html"));
     // The sections are written; the disk fills up between the table's test and its write.
-    runner_.Ports().files.AfterTest(disk.Path("Tile.html"), [&disk] { fillUp(disk); });
+    runner_.Ports().files.AfterTest(disk.Path("Tile.html"), [&disk] { disk.FillUp(); });
     exportTo(disk.Path("Tile.bmp"), {"answer box Yes", "answer box Yes"});
     EXPECT_TRUE(told("box title=\"HTML Output Problem\" text=\"The HTML file " +
                      disk.Path("Tile.html") + " could not be written: the disk is full."))
