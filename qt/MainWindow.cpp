@@ -8,6 +8,7 @@
 #include "window/EditCommands.h"
 #include "window/FormLifecycle.h"
 #include "window/MenuTree.h"
+#include "window/PictureOpening.h"
 #include "window/PointerFeedback.h"
 #include "window/Toolbar.h"
 #include "window/Viewport.h"
@@ -34,7 +35,8 @@ bool isCheckable(Item item) {
 
 } // namespace
 
-MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath)
+MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath,
+                       const std::string& dataPath)
     : picActual_(new PictureCanvas(nullptr)), ports_{boxes_,
                                                      dlgPic_,
                                                      *picActual_,
@@ -45,12 +47,14 @@ MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath)
                                                      files_,
                                                      exportDialogs_,
                                                      clipboard_,
-                                                     AppInfo{appPath, "Slicewright", "slicewright"},
+                                                     AppInfo{appPath, "Slicewright", "slicewright",
+                                                             dataPath},
                                                      jpgCompDialog_,
                                                      aboutWindow_,
                                                      shell_,
                                                      registry_,
-                                                     sysInfo_} {
+                                                     sysInfo_,
+                                                     userFolders_} {
     aboutWindow_.raise = [this](void (frmAbout::*event)()) {
         RunOperation("The about window", [this, event] { RaiseAboutEvent(session_, event); });
     };
@@ -70,6 +74,10 @@ MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath)
 // margins, and a picture's window keeps its width wherever it is wider.
 void MainWindow::keepMenuBarWhole() {
     setMinimumWidth(std::max(menuBar()->sizeHint().width(), tlbrMain_->sizeHint().width()));
+}
+
+void MainWindow::OpenPictureFile(const std::string& path) {
+    RunOperation("Open", [this, &path] { OpenChosenPicture(session_, path); });
 }
 
 // Every handler runs under the name the user knows it by, so that an

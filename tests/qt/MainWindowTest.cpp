@@ -8,6 +8,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QMenuBar>
 #include <QMouseEvent>
@@ -17,6 +18,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolBar>
+#include <memory>
 
 using namespace sw;
 
@@ -39,6 +41,10 @@ private slots:
     void init() {
         QVERIFY(config_.isValid());
         qputenv("XDG_CONFIG_HOME", config_.path().toUtf8());
+        // A fresh home for every test, with no Pictures folder unless the test makes one.
+        home_ = std::make_unique<QTemporaryDir>();
+        QVERIFY(home_->isValid());
+        qputenv("HOME", home_->path().toUtf8());
     }
 
     void commandsStartAsTheStoredLayoutHasThem() {
@@ -56,18 +62,37 @@ private slots:
     }
 
     void exitWritesTheSixSettingsToTheUsersConfigFile() {
+        QVERIFY(QDir(home_->path()).mkpath("Pictures"));
         FixedLoader loader;
         qt::MainWindow window(loader, "/opt/slicewright");
         window.show();
         test::FindAction(window, "Exit")->trigger();
         QVERIFY(!window.isVisible());
         QSettings stored(config_.filePath("Corvane-Studio.ini"), QSettings::IniFormat);
-        QCOMPARE(stored.value("Slicewright/LastOpenDir").toString(), QString("/opt/slicewright"));
+        // A first run starts in the user's Pictures folder, not the program's.
+        const QString pictures = home_->filePath("Pictures");
+        QCOMPARE(stored.value("Slicewright/LastOpenDir").toString(), pictures);
+        QCOMPARE(stored.value("Slicewright/LastSaveDir").toString(), pictures);
         QCOMPARE(stored.value("Slicewright/LastPicture").toString(), QString(" "));
         QCOMPARE(stored.value("Slicewright/SaveFormat").toString(), QString("BMP"));
         QCOMPARE(stored.value("Slicewright/HTMLOut").toString(), QString("N"));
         QCOMPARE(stored.value("Slicewright/JPGComp").toString(), QString("90"));
-        QVERIFY(stored.contains("Slicewright/LastSaveDir"));
+    }
+
+    // Without a Pictures folder the home folder stands in, and so it does for
+    // a stored folder that has gone; a stored folder that exists is kept.
+    void firstRunFoldersFallBackToHome() {
+        const QString kept = home_->filePath("kept");
+        QVERIFY(QDir(home_->path()).mkpath("kept"));
+        qt::QtSettingsStore store;
+        store.SaveSetting("Corvane-Studio", "Slicewright", "LastOpenDir", kept.toStdString());
+        store.SaveSetting("Corvane-Studio", "Slicewright", "LastSaveDir",
+                          home_->filePath("gone/").toStdString());
+        FixedLoader loader;
+        qt::MainWindow window(loader, "/opt/slicewright");
+        const SessionState& state = window.CurrentSession().state;
+        QCOMPARE(QString::fromStdString(state.LastOpenDir), kept);
+        QCOMPARE(QString::fromStdString(state.LastSaveDir), home_->path());
     }
 
     void aStoredLastPictureBecomesTheRememberedItem() {
@@ -197,6 +222,7 @@ private slots:
 
 private:
     QTemporaryDir config_;
+    std::unique_ptr<QTemporaryDir> home_;
 };
 
 QTEST_MAIN(MainWindowTest)
