@@ -30,11 +30,9 @@ done
 [ ! -e "$usr/lib/slicewright" ] || fail "the program's files went to /usr/lib/slicewright"
 [ ! -e "$usr/bin/Help" ] || fail "the help page went beside the program in /usr/bin"
 
-# Every image the help page shows is installed with it.
-help=$usr/share/slicewright/help
-for image in $(grep -o 'src="[^"]*"' "$help/MainHelp.htm" | sed 's/^src="//; s/"$//'); do
-    [ -f "$help/$image" ] || fail "the help page shows $image, which is not installed"
-done
+# The installed page's links and images all resolve where it was installed.
+"$(dirname "$0")/../../scripts/check-help" "$usr/share/slicewright/help" ||
+    fail "the installed help page has broken links or images"
 
 for size in 48 256; do
     geometry=$(/usr/bin/identify -format '%wx%h' "$usr/share/icons/hicolor/${size}x${size}/apps/$app_id.png")
