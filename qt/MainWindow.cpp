@@ -10,6 +10,7 @@
 #include "window/MenuTree.h"
 #include "window/PictureOpening.h"
 #include "window/PointerFeedback.h"
+#include "window/StoredLayout.h"
 #include "window/Toolbar.h"
 #include "window/Viewport.h"
 
@@ -118,7 +119,8 @@ void MainWindow::setupScrollBars() {
     hscrollBar_ = new QScrollBar(Qt::Horizontal, area_);
     cornerWidget_ = new QWidget(area_);
     cornerWidget_->setAutoFillBackground(true);
-    cornerWidget_->resize(PixelsOf(255), PixelsOf(255));
+    cornerWidget_->resize(PixelsOf(StoredLayout::picResize.Width),
+                          PixelsOf(StoredLayout::picResize.Height));
     for (QWidget* widget :
          {static_cast<QWidget*>(vscrollBar_), static_cast<QWidget*>(hscrollBar_), cornerWidget_}) {
         widget->hide();
@@ -140,25 +142,25 @@ void MainWindow::connectBar(QScrollBar* bar, void (*change)(Session&), void (*sc
             [this, change] { run("Scrolling the picture", change); });
 }
 
-// The stored layout, in twips: a client area of 3405 x 5325 under the menu
-// bar, and the controls where they stand before the first picture.
+// The form and its controls where the stored layout puts them.
 void MainWindow::placeStoredLayout() {
-    form_.SetWidth(3525);
-    form_.SetHeight(6015);
-    const auto place = [](FormControl& control, float left, float top) {
-        control.SetLeft(left);
-        control.SetTop(top);
+    using L = StoredLayout;
+    form_.SetWidth(L::form.Width);
+    form_.SetHeight(L::form.Height);
+    const auto place = [](FormControl& control, const TwipRect& at) {
+        control.SetLeft(at.Left);
+        control.SetTop(at.Top);
     };
-    place(*picActual_, 120, 720);
-    place(*mousePos_, 120, 480);
-    place(*vscroll_, 3120, 480);
-    vscroll_->SetWidth(255);
-    vscroll_->SetHeight(975);
-    place(*hscroll_, 1920, 480);
-    hscroll_->SetWidth(1095);
-    hscroll_->SetHeight(255);
-    place(*picResize_, 2640, 840);
-    place(*toolbar_, 0, 0);
+    place(*picActual_, L::picActual);
+    place(*mousePos_, L::lblMousePos);
+    place(*vscroll_, L::vscroll);
+    vscroll_->SetWidth(L::vscroll.Width);
+    vscroll_->SetHeight(L::vscroll.Height);
+    place(*hscroll_, L::hscroll);
+    hscroll_->SetWidth(L::hscroll.Width);
+    hscroll_->SetHeight(L::hscroll.Height);
+    place(*picResize_, L::picResize);
+    place(*toolbar_, L::tlbrMain);
     stretchToolbar();
 }
 
