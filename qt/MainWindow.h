@@ -64,6 +64,7 @@ private:
     void connectPicture();
     void connectBar(QScrollBar* bar, void (*change)(Session&), void (*scroll)(Session&));
     void stretchToolbar();
+    void keepMenuBarWhole();
     QAction* addMenuEntry(QMenu* menu, const MenuEntry& entry);
     QAction* addMenuBarCommand(const MenuEntry& entry);
     void run(const std::string& operation, void (*handler)(Session&));

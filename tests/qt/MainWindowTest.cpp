@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -158,6 +159,65 @@ private slots:
         QCOMPARE(session.state.hLineCount, static_cast<i16>(1));
         QCOMPARE(session.state.hLines(1), static_cast<i16>(12));
         QVERIFY(test::FindAction(window, "Undo Last")->isEnabled());
+    }
+
+    // A narrow picture leaves the window at its least width, where the five
+    // menus and the toolbar's nine entries still stand in one row each,
+    // with no overflow button.
+    void atTheLeastWidthEveryMenuAndButtonIsInView() {
+        qt::QtSettingsStore().SaveSetting("Corvane-Studio", "Slicewright", "LastPicture",
+                                          "/pictures/narrow.bmp");
+        FixedLoader loader;
+        qt::MainWindow window(loader, "/opt/slicewright");
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        test::FindAction(window, "/pictures/narrow.bmp")->trigger();
+        QApplication::processEvents();
+        QCOMPARE(window.width(), window.minimumWidth());
+        QMenuBar* menus = window.menuBar();
+        QCOMPARE(menus->actions().size(), 5);
+        for (QAction* menu : menus->actions()) {
+            QVERIFY2(menus->rect().contains(menus->actionGeometry(menu)), qPrintable(menu->text()));
+        }
+        auto* toolbar = window.findChild<QToolBar*>();
+        QVERIFY(toolbar->isVisible());
+        QCOMPARE(toolbar->actions().size(), 9);
+        for (QAction* entry : toolbar->actions()) {
+            QWidget* button = toolbar->widgetForAction(entry);
+            QVERIFY(button != nullptr && button->isVisible());
+            QVERIFY(toolbar->rect().contains(button->geometry()));
+            QVERIFY(toolbar->rect().right() < window.VScrollBar().geometry().left() ||
+                    !window.VScrollBar().isVisible());
+        }
+        for (const char* overflow : {"qt_menubar_ext_button", "qt_toolbar_ext_button"}) {
+            auto* button = window.findChild<QWidget*>(overflow);
+            QVERIFY(button == nullptr || !button->isVisible());
+        }
+    }
+
+    // Each button shows its own image, sharp at scale 1 and 2, and no text.
+    void toolbarButtonsShowImagesAndToolTips() {
+        FixedLoader loader;
+        qt::MainWindow window(loader, "/opt/slicewright");
+        auto* toolbar = window.findChild<QToolBar*>();
+        QCOMPARE(toolbar->toolButtonStyle(), Qt::ToolButtonIconOnly);
+        QStringList tips;
+        QList<QImage> images;
+        for (QAction* entry : toolbar->actions()) {
+            if (entry->isSeparator()) {
+                continue;
+            }
+            tips << entry->toolTip();
+            const QList<QSize> sizes = entry->icon().availableSizes();
+            QVERIFY2(sizes.contains(QSize(16, 16)) && sizes.contains(QSize(32, 32)),
+                     qPrintable(entry->toolTip()));
+            const QImage image = entry->icon().pixmap(QSize(32, 32)).toImage();
+            QVERIFY2(!images.contains(image), qPrintable(entry->toolTip()));
+            images << image;
+        }
+        QCOMPARE(tips, QStringList({"Open File", "Create Sections", "Draw Horizontal Lines",
+                                    "Draw Vertical Lines", "Divide Horizontally Equal",
+                                    "Divide Vertically Equal", "Clear Lines", "Undo"}));
     }
 
 private:
