@@ -163,6 +163,10 @@ group_options() {
     [[ ! -s out.txt && ! -s err.txt ]] || fail "--quiet printed: $(cat out.txt err.txt)"
     expect 0 "$cut" plasma.bmp --grid 2x2 -o progress --progress
     [[ ! -s err.txt ]] || fail "--progress drew into a pipe: $(cat err.txt)"
+    # On a terminal (script gives the program one) the bar is drawn and wiped.
+    script -qec "'$cut' plasma.bmp --grid 2x2 -o terminal --progress" /dev/null > terminal.txt ||
+        fail "--progress on a terminal: $(cat terminal.txt)"
+    grep -q '\[#*\] 4/4 plasma.bmp' terminal.txt || fail "no bar on a terminal: $(cat -v terminal.txt)"
     # Without --force an earlier run's files are listed and nothing is written.
     touch -d '2001-01-01' grid/plasma2.bmp
     expect 1 "$cut" plasma.bmp --grid 3x2 -o grid --html grid/t.html
