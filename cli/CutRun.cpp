@@ -164,26 +164,24 @@ bool CutRun::writePieces(const PictureJob& job, const Picture& picture, Progress
     const std::string saveFormat = encoder.SaveFormat();
     SectionOutput output{clip, saveFormat, options_.quality, encoder};
     output.threads = options_.jobs;
-    std::vector<std::string> written;
     output.afterSection = [&](const SectionRect& section, std::size_t) {
         if (HasArea(job.layout.pieces[static_cast<std::size_t>(section.Number - 1)])) {
-            written.push_back(section.FileName);
+            written_.push_back(section.FileName);
         }
         progress.Step(job.picture);
         return true;
     };
     const std::optional<SectionFailure> failure = WriteSections(output, job.plan, cells);
-    if (!failure) {
-        return true;
+    if (failure) {
+        progress.Clear();
+        fail(failure->path, failureText(*failure));
     }
-    progress.Clear();
-    fail(failure->path, failureText(*failure));
-    err_ << kProgram << ": " << job.picture << ": " << written.size()
-         << " piece(s) were written before it:\n";
-    for (const std::string& file : written) {
-        err_ << "  " << file << "\n";
-    }
-    return false;
+    return !failure;
+}
+
+void CutRun::writeSideFile(const std::string& path, const std::string& text) {
+    writeTextFile(path, text);
+    written_.push_back(path);
 }
 
 bool CutRun::writeSideFiles(const PictureJob& job, const SectionCells& cells) {
@@ -202,11 +200,10 @@ bool CutRun::writeSideFiles(const PictureJob& job, const SectionCells& cells) {
                                         job.format,
                                         static_cast<i32>(job.layout.rowHeights.size()),
                                         job.plan.Columns};
-            writeTextFile(job.manifestFile, ManifestText(source, job.layout));
+            writeSideFile(job.manifestFile, ManifestText(source, job.layout));
         }
     } catch (const FileWriteError& error) {
-        fail(error.Path(), "cannot be written: " + error.Reason() + " (the pieces of " +
-                               job.picture + " are all written)");
+        fail(error.Path(), "cannot be written: " + error.Reason());
         return false;
     }
     return true;
@@ -283,7 +280,24 @@ int CutRun::Run() {
     for (const PictureJob& job : jobs_) {
         cut(job, progress);
     }
+    if (status_ != 0) {
+        progress.Clear();
+        listWritten();
+    }
     return status_;
+}
+
+// After a failure the user learns what is on disk, so that nothing written
+// is lost track of.
+void CutRun::listWritten() {
+    if (written_.empty()) {
+        err_ << kProgram << ": no file was written\n";
+        return;
+    }
+    err_ << kProgram << ": " << written_.size() << " file(s) were written:\n";
+    for (const std::string& file : written_) {
+        err_ << "  " << file << "\n";
+    }
 }
 
 } // namespace sw

@@ -32,16 +32,20 @@ private:
     void cut(const PictureJob& job, ProgressBar& progress);
     bool writePieces(const PictureJob& job, const Picture& picture, ProgressBar& progress,
                      SectionCells& cells);
+    void writeSideFile(const std::string& path, const std::string& text);
     bool writeSideFiles(const PictureJob& job, const SectionCells& cells);
     bool verify(const PictureJob& job, const Picture& picture);
     void warnAboutEmptySections(const PictureJob& job);
     void fail(const std::string& subject, const std::string& message);
+    void listWritten();
 
     const CutOptions& options_;
     std::ostream& out_;
     std::ostream& err_;
     ParsedLineFile lineFile_;
     std::vector<PictureJob> jobs_;
+    // Every file this run has put on disk, in order.
+    std::vector<std::string> written_;
     int status_ = 0;
 };
 

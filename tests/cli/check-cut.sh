@@ -217,6 +217,7 @@ group_batch() {
     expect 1 "$cut" plasma.bmp broken.jpg second.bmp --grid 2x2 -o batch -f png \
         --manifest m.json --css index.html --verify
     grep -q "broken.jpg: cannot be read" err.txt || fail "the broken picture is not named: $(cat err.txt)"
+    grep -q "^  batch/second/m.json" err.txt || fail "the files written are not listed: $(cat err.txt)"
     check_manifest batch/plasma/m.json plasma.bmp
     check_manifest batch/second/m.json second.bmp
     [[ -f batch/second/index.html && ! -e batch/broken ]] || fail "sub-folders: $(find batch)"
@@ -229,6 +230,7 @@ group_failures() {
     expect 1 "$cut" plasma.bmp --grid 2x301 -o refused
     grep -q "Number of Sections exceed the actual width of the picture!" err.txt ||
         fail "refusal: $(cat err.txt)"
+    grep -q "no file was written" err.txt || fail "refusal: $(cat err.txt)"
     [[ ! -e refused ]] || fail "a refused division wrote something"
     # A corrupt line file: the window's words.
     printf '"H5"\r\ngarbage\r\n' > bad.ple
@@ -245,7 +247,7 @@ group_failures() {
     echo old > stuck/plasma1.png
     expect 1 "$cut" plasma.bmp --grid 2x2 -o stuck -f png --force
     grep -q "stuck/plasma3.png: cannot be written" err.txt || fail "write failure: $(cat err.txt)"
-    grep -q "2 piece(s) were written before it" err.txt || fail "written list: $(cat err.txt)"
+    grep -q "2 file(s) were written:" err.txt || fail "written list: $(cat err.txt)"
     grep -q "^  stuck/plasma2.png" err.txt || fail "written list: $(cat err.txt)"
     [[ -d stuck/plasma3.png && ! -e stuck/plasma4.png ]] || fail "the run went on after the failure"
     ls stuck | grep -qv '^plasma[123].png$' && fail "a temporary file stayed: $(ls stuck)"
