@@ -252,8 +252,17 @@ void CutRun::cut(const PictureJob& job, ProgressBar& progress) {
     }
     if (!options_.quiet) {
         progress.Clear();
-        out_ << job.picture << ": " << FilesOf(job).size() << " file(s) written to "
-             << job.plan.Destination.Folder << "\n";
+        const std::vector<i32> empty = SectionsWithoutArea(job.plan, job.width, job.height);
+        out_ << job.picture << ": " << job.plan.Sections.size() - empty.size()
+             << " piece(s) written to " << job.plan.Destination.Folder;
+        const char* separator = "; also ";
+        for (const std::string* side : {&job.htmlFile, &job.cssFile, &job.manifestFile}) {
+            if (!side->empty()) {
+                out_ << separator << *side;
+                separator = ", ";
+            }
+        }
+        out_ << "\n";
     }
     if (options_.verify) {
         verify(job, loaded.picture);
