@@ -51,13 +51,19 @@ done
 SCRIPT
 chmod +x "$work/magick.sh"
 
+# time NAME OUT COMMAND: hyperfine's mean, spread and extremes of a command
+# that writes into OUT, emptied before every run, as JSON in $work/NAME.json.
+time_it() {
+    local name=$1 out=$2 command=$3
+    "$hyperfine" --style basic --warmup 1 --runs "$runs" --export-json "$work/$name.json" \
+        --prepare "rm -rf '$out'; mkdir -p '$out'" -n "$name" "$command" > "$work/$name.log"
+}
+
 measure() {
     local format=$1
-    "$hyperfine" --style basic --warmup 1 --runs "$runs" --export-json "$work/$format.json" \
-        --prepare "rm -rf '$work/out-cut' '$work/out-magick'; mkdir -p '$work/out-magick'" \
-        -n "slicewright-cut $format" \
-        "'$cut' '$work'/pictures/*.jpg --grid 10x10 -o '$work/out-cut' -f $format -q 90 --quiet" \
-        -n "ImageMagick $format" "'$work/magick.sh' $format" > "$work/$format.log"
+    time_it "cut-$format" "$work/out-cut" \
+        "'$cut' '$work'/pictures/*.jpg --grid 10x10 -o '$work/out-cut' -f $format -q 90 --quiet"
+    time_it "magick-$format" "$work/out-magick" "'$work/magick.sh' $format"
     # The files of the last runs, counted and weighed.
     local ours theirs
     ours=$(find "$work/out-cut" -type f -name "*.$format" | wc -l)
@@ -67,13 +73,14 @@ measure() {
     local ours_bytes theirs_bytes
     ours_bytes=$(du -sb "$work/out-cut" | cut -f1)
     theirs_bytes=$(du -sb "$work/out-magick" | cut -f1)
-    "$jq" -r --arg format "$format" --argjson ob "$ours_bytes" --argjson tb "$theirs_bytes" '
-        .results as $r |
+    "$jq" -s -r --arg format "$format" --argjson ob "$ours_bytes" --argjson tb "$theirs_bytes" '
+        [.[0].results[0], .[1].results[0]] as $r |
         ($r[0].mean) as $c | ($r[1].mean) as $m |
         "\($format): slicewright-cut \($c * 1000 | floor) ms (sd \($r[0].stddev * 1000 | floor), min \($r[0].min * 1000 | floor), max \($r[0].max * 1000 | floor)); " +
         "ImageMagick \($m * 1000 | floor) ms (sd \($r[1].stddev * 1000 | floor), min \($r[1].min * 1000 | floor), max \($r[1].max * 1000 | floor)); " +
         "ratio \(($m / $c) * 100 | floor / 100) (target >= 4: \(if $m / $c >= 4 then "met" else "MISSED" end)); " +
-        "bytes written \($ob / 1048576 | floor) MiB against \($tb / 1048576 | floor) MiB"' "$work/$format.json"
+        "bytes written \($ob / 1048576 | floor) MiB against \($tb / 1048576 | floor) MiB"' \
+        "$work/cut-$format.json" "$work/magick-$format.json"
 }
 
 echo "slicewright-cut against ImageMagick, $(date -u '+%Y-%m-%d %H:%M UTC'), $(nproc) cores, load $(cut -d' ' -f1-3 /proc/loadavg)"

@@ -17,6 +17,7 @@
 
 #include <cmath>
 #include <filesystem>
+#include <future>
 #include <system_error>
 
 namespace sw {
@@ -228,9 +229,21 @@ bool CutRun::verify(const PictureJob& job, const Picture& picture) {
     return report.Passed();
 }
 
-void CutRun::cut(const PictureJob& job, ProgressBar& progress) {
-    QtPictureLoader loader;
-    const LoadedPicture loaded = loader.LoadPicture(job.picture);
+void CutRun::printSummary(const PictureJob& job) {
+    const std::vector<i32> empty = SectionsWithoutArea(job.plan, job.width, job.height);
+    out_ << job.picture << ": " << job.plan.Sections.size() - empty.size()
+         << " piece(s) written to " << job.plan.Destination.Folder;
+    const char* separator = "; also ";
+    for (const std::string* side : {&job.htmlFile, &job.cssFile, &job.manifestFile}) {
+        if (!side->empty()) {
+            out_ << separator << *side;
+            separator = ", ";
+        }
+    }
+    out_ << "\n";
+}
+
+void CutRun::cut(const PictureJob& job, const LoadedPicture& loaded, ProgressBar& progress) {
     if (!loaded.ok()) {
         fail(job.picture, "cannot be read: " + loaded.error);
         return;
@@ -252,20 +265,28 @@ void CutRun::cut(const PictureJob& job, ProgressBar& progress) {
     }
     if (!options_.quiet) {
         progress.Clear();
-        const std::vector<i32> empty = SectionsWithoutArea(job.plan, job.width, job.height);
-        out_ << job.picture << ": " << job.plan.Sections.size() - empty.size()
-             << " piece(s) written to " << job.plan.Destination.Folder;
-        const char* separator = "; also ";
-        for (const std::string* side : {&job.htmlFile, &job.cssFile, &job.manifestFile}) {
-            if (!side->empty()) {
-                out_ << separator << *side;
-                separator = ", ";
-            }
-        }
-        out_ << "\n";
+        printSummary(job);
     }
     if (options_.verify) {
         verify(job, loaded.picture);
+    }
+}
+
+// With more than one thread the next picture is decoded while the current one
+// is cut: decoding is the one step of a picture that runs on a single core.
+void CutRun::cutAll(ProgressBar& progress) {
+    const auto policy = options_.jobs > 1 ? std::launch::async : std::launch::deferred;
+    const auto load = [](const std::string& path) { return QtPictureLoader().LoadPicture(path); };
+    std::future<LoadedPicture> next;
+    for (std::size_t i = 0; i < jobs_.size(); ++i) {
+        if (i == 0) {
+            next = std::async(policy, load, jobs_[0].picture);
+        }
+        const LoadedPicture loaded = next.get();
+        if (i + 1 < jobs_.size()) {
+            next = std::async(policy, load, jobs_[i + 1].picture);
+        }
+        cut(jobs_[i], loaded, progress);
     }
 }
 
@@ -286,9 +307,7 @@ int CutRun::Run() {
         return status_;
     }
     ProgressBar progress(err_, options_.progress && StandardErrorIsTerminal(), pieceCount(jobs_));
-    for (const PictureJob& job : jobs_) {
-        cut(job, progress);
-    }
+    cutAll(progress);
     if (status_ != 0) {
         progress.Clear();
         listWritten();

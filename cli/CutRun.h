@@ -4,13 +4,13 @@
 #include "PictureJob.h"
 #include "export/SectionCells.h"
 #include "linefile/LineFileText.h"
+#include "ports/PictureLoader.h"
 
 #include <ostream>
 #include <vector>
 
 namespace sw {
 
-class Picture;
 class ProgressBar;
 
 // One run of the command over all its pictures. Every picture is planned
@@ -29,7 +29,9 @@ private:
     void planAll();
     bool nothingReplaced();
     void printPlan(const PictureJob& job);
-    void cut(const PictureJob& job, ProgressBar& progress);
+    void cutAll(ProgressBar& progress);
+    void cut(const PictureJob& job, const LoadedPicture& loaded, ProgressBar& progress);
+    void printSummary(const PictureJob& job);
     bool writePieces(const PictureJob& job, const Picture& picture, ProgressBar& progress,
                      SectionCells& cells);
     void writeSideFile(const std::string& path, const std::string& text);
