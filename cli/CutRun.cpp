@@ -1,16 +1,14 @@
 #include "CutRun.h"
 
 #include "CommandLine.h"
-#include "CssPage.h"
 #include "JobPlanner.h"
-#include "Manifest.h"
 #include "PieceEncoder.h"
 #include "ProgressBar.h"
+#include "SideFiles.h"
 #include "Verification.h"
 #include "common/AtomicFile.h"
 #include "common/FileWriteError.h"
 #include "export/ClipContainer.h"
-#include "export/HtmlTable.h"
 #include "export/SectionArea.h"
 #include "export/SectionWriter.h"
 #include "qt/image/QtPictureLoader.h"
@@ -24,18 +22,6 @@ namespace sw {
 namespace {
 
 constexpr const char* kProgram = "slicewright-cut";
-
-// A page or manifest may go into a folder of its own, made like the pieces' one.
-void writeTextFile(const std::string& path, const std::string& text) {
-    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
-    std::error_code error;
-    if (!folder.empty()) {
-        std::filesystem::create_directories(folder, error);
-    }
-    AtomicFile file(path);
-    file.Write(text);
-    file.Commit();
-}
 
 std::string failureText(const SectionFailure& failure) {
     switch (failure.kind) {
@@ -180,29 +166,9 @@ bool CutRun::writePieces(const PictureJob& job, const Picture& picture, Progress
     return !failure;
 }
 
-void CutRun::writeSideFile(const std::string& path, const std::string& text) {
-    writeTextFile(path, text);
-    written_.push_back(path);
-}
-
 bool CutRun::writeSideFiles(const PictureJob& job, const SectionCells& cells) {
     try {
-        if (!job.htmlFile.empty()) {
-            writeTextFile(job.htmlFile, TableText(BuildTableLines(cells, job.plan.Columns)));
-        }
-        if (!job.cssFile.empty()) {
-            writeTextFile(job.cssFile,
-                          CssPageText(job.layout, job.plan.Destination.BaseName, job.cssFile));
-        }
-        if (!job.manifestFile.empty()) {
-            const ManifestSource source{job.picture,
-                                        job.width,
-                                        job.height,
-                                        job.format,
-                                        static_cast<i32>(job.layout.rowHeights.size()),
-                                        job.plan.Columns};
-            writeSideFile(job.manifestFile, ManifestText(source, job.layout));
-        }
+        WriteSideFiles(job, cells, written_);
     } catch (const FileWriteError& error) {
         fail(error.Path(), "cannot be written: " + error.Reason());
         return false;

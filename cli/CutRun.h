@@ -34,7 +34,6 @@ private:
     void printSummary(const PictureJob& job);
     bool writePieces(const PictureJob& job, const Picture& picture, ProgressBar& progress,
                      SectionCells& cells);
-    void writeSideFile(const std::string& path, const std::string& text);
     bool writeSideFiles(const PictureJob& job, const SectionCells& cells);
     bool verify(const PictureJob& job, const Picture& picture);
     void warnAboutEmptySections(const PictureJob& job);
