@@ -3,10 +3,12 @@
 #include "dialogs/DialogCommands.h"
 #include "qt/OperationFailed.h"
 #include "qt/QtText.h"
+#include "qt/ToolbarImages.h"
 #include "window/DrawModeCommands.h"
 #include "window/EditCommands.h"
 #include "window/FormLifecycle.h"
 #include "window/MenuTree.h"
+#include "window/PictureOpening.h"
 #include "window/PointerFeedback.h"
 #include "window/Toolbar.h"
 #include "window/Viewport.h"
@@ -33,7 +35,8 @@ bool isCheckable(Item item) {
 
 } // namespace
 
-MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath)
+MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath,
+                       const std::string& dataPath)
     : picActual_(new PictureCanvas(nullptr)), ports_{boxes_,
                                                      dlgPic_,
                                                      *picActual_,
@@ -44,12 +47,14 @@ MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath)
                                                      files_,
                                                      exportDialogs_,
                                                      clipboard_,
-                                                     AppInfo{appPath, "Slicewright", "slicewright"},
+                                                     AppInfo{appPath, "Slicewright", "slicewright",
+                                                             dataPath},
                                                      jpgCompDialog_,
                                                      aboutWindow_,
                                                      shell_,
                                                      registry_,
-                                                     sysInfo_} {
+                                                     sysInfo_,
+                                                     userFolders_} {
     aboutWindow_.raise = [this](void (frmAbout::*event)()) {
         RunOperation("The about window", [this, event] { RaiseAboutEvent(session_, event); });
     };
@@ -59,6 +64,20 @@ MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath)
     connectPicture();
     placeStoredLayout();
     Form_Load(session_);
+    keepMenuBarWhole();
+}
+
+// The five menus and the toolbar's nine entries must fit in a row at the
+// least width, or some of them go behind an overflow button; with a wider
+// font the window's least width rises to what they need. This is done after
+// Form_Load so that the logic notes the stored layout's least width and
+// margins, and a picture's window keeps its width wherever it is wider.
+void MainWindow::keepMenuBarWhole() {
+    setMinimumWidth(std::max(menuBar()->sizeHint().width(), tlbrMain_->sizeHint().width()));
+}
+
+void MainWindow::OpenPictureFile(const std::string& path) {
+    RunOperation("Open", [this, &path] { OpenChosenPicture(session_, path); });
 }
 
 // Every handler runs under the name the user knows it by, so that an
@@ -194,6 +213,8 @@ void MainWindow::setupToolbar() {
     // that showing it moves nothing; it covers what is scrolled under it.
     tlbrMain_ = new QToolBar("Toolbar", area_);
     tlbrMain_->setMovable(false);
+    tlbrMain_->setIconSize(QSize(kToolbarImageSize, kToolbarImageSize));
+    tlbrMain_->setToolButtonStyle(Qt::ToolButtonIconOnly);
     tlbrMain_->setAutoFillBackground(true);
     int count = 0;
     const ToolbarEntry* entries = ToolbarEntries(count);
@@ -203,7 +224,8 @@ void MainWindow::setupToolbar() {
             tlbrMain_->addSeparator();
             continue;
         }
-        QAction* button = tlbrMain_->addAction(ToQ(entry.toolTip));
+        // Image only; the text stays for screen readers.
+        QAction* button = tlbrMain_->addAction(ToolbarImage(entry.image), ToQ(entry.toolTip));
         button->setToolTip(ToQ(entry.toolTip));
         const int index = entry.index;
         const std::string operation = entry.toolTip;
