@@ -28,6 +28,14 @@ std::string nameOf(const std::string& path) {
     return slash == std::string::npos ? path : path.substr(slash + 1);
 }
 
+// A hidden name beside the target's. A target name may use all 255 bytes a
+// name can have: its start is enough to tell whose temporary file this is.
+std::string temporaryName(const std::string& name) {
+    constexpr std::size_t kLongestName = 255;
+    const std::string suffix = ".XXXXXX";
+    return "." + name.substr(0, kLongestName - 1 - suffix.size()) + suffix;
+}
+
 // A new file takes the permissions a new file would get (mkstemp makes it
 // 0600, which a web server serving the sections could not read); a replaced
 // file keeps its own.
@@ -71,13 +79,15 @@ std::string SystemErrorText(int error) {
         return "the disk quota is used up";
     case EFBIG:
         return "the file would be too large";
+    case ENAMETOOLONG:
+        return "the name is too long";
     default:
         return std::strerror(error);
     }
 }
 
 AtomicFile::AtomicFile(std::string path) : path_(std::move(path)) {
-    std::string pattern = folderOf(path_) + "/." + nameOf(path_) + ".XXXXXX";
+    std::string pattern = folderOf(path_) + "/" + temporaryName(nameOf(path_));
     fd_ = ::mkostemp(pattern.data(), O_CLOEXEC);
     if (fd_ < 0) {
         fail(SystemErrorText(errno));

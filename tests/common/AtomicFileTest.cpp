@@ -95,6 +95,17 @@ TEST(AtomicFileOnDisk, UncommittedWriteLeavesTheTargetAndNoTemporaryFile) {
     EXPECT_EQ(namesIn(disk.Path()), std::vector<std::string>{"Tile1.bmp"});
 }
 
+// A name of 255 bytes, the most a name can have, leaves no room for the
+// temporary file's own additions: they must not make its name too long.
+TEST(AtomicFileOnDisk, WritesNamesOfTheLongestLength) {
+    const SmallTmpfs disk(1 << 20);
+    const std::string name = std::string(251, 'n') + ".ple";
+    writeFile(disk.Path(name), "old");
+    writeFile(disk.Path(name), "new");
+    EXPECT_EQ(contentsOf(disk.Path(name)), "new");
+    EXPECT_EQ(namesIn(disk.Path()), std::vector<std::string>{name});
+}
+
 TEST(AtomicFileOnAFullDisk, FailsWithTheCauseAndKeepsTheOldFileWhole) {
     const SmallTmpfs disk(64 * 1024);
     writeFile(disk.Path("Tile1.bmp"), "old section");

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <fstream>
 #include <stdexcept>
 #include <sys/mount.h>
 #include <unistd.h>
@@ -39,6 +40,18 @@ SmallTmpfs::~SmallTmpfs() {
 void SmallTmpfs::MakeReadOnly() {
     if (::mount("tmpfs", path_.c_str(), "tmpfs", MS_REMOUNT | MS_RDONLY, nullptr) != 0) {
         cannotMount("remount read-only");
+    }
+}
+
+void SmallTmpfs::FillUp() const {
+    std::ofstream filler(Path("filler"), std::ios::binary);
+    const std::string block(4096, 'f');
+    while (filler.write(block.data(), static_cast<std::streamsize>(block.size()))) {
+    }
+    filler.close();
+    // What the stream held when the disk ran out goes byte by byte.
+    std::ofstream rest(Path("filler"), std::ios::binary | std::ios::app);
+    while (rest.put('f') && rest.flush()) {
     }
 }
 

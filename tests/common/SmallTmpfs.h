@@ -19,6 +19,8 @@ public:
     const std::string& Path() const { return path_; }
     // Mounts it again read-only, keeping what is on it.
     void MakeReadOnly();
+    // Takes every byte left on it with a file named "filler".
+    void FillUp() const;
 
 private:
     std::string path_;

@@ -54,6 +54,11 @@ void removeFile(ScenarioRunner&, const ScenarioRunner::Words& w) {
     }
 }
 
+void vanishAfterTest(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
+    expectArguments(w, 1, "vanish \"path\"");
+    runner.Ports().files.VanishAfterTest(w[1]);
+}
+
 void showFile(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
     expectArguments(w, 1, "show \"path\"");
     std::string contents;
@@ -101,6 +106,7 @@ void AddExportCommands(ScenarioRunner& runner) {
     runner.AddCommand("file", makeFile);
     runner.AddCommand("copy", copyFile);
     runner.AddCommand("remove", removeFile);
+    runner.AddCommand("vanish", vanishAfterTest);
     runner.AddCommand("show", showFile);
     runner.AddCommand("files", listFiles);
     runner.AddCommand("image", showImage);
