@@ -195,6 +195,16 @@ bool CutRun::verify(const PictureJob& job, const Picture& picture) {
     return report.Passed();
 }
 
+bool CutRun::putOnDisk(const PictureJob& job) {
+    try {
+        SyncFileSystem(job.plan.Destination.Folder);
+    } catch (const FileWriteError& error) {
+        fail(error.Path(), error.Reason());
+        return false;
+    }
+    return true;
+}
+
 void CutRun::printSummary(const PictureJob& job) {
     const std::vector<i32> empty = SectionsWithoutArea(job.plan, job.width, job.height);
     out_ << job.picture << ": " << job.plan.Sections.size() - empty.size()
@@ -226,7 +236,11 @@ void CutRun::cut(const PictureJob& job, const LoadedPicture& loaded, ProgressBar
     }
     warnAboutEmptySections(job);
     SectionCells cells;
-    if (!writePieces(job, loaded.picture, progress, cells) || !writeSideFiles(job, cells)) {
+    const bool written =
+        writePieces(job, loaded.picture, progress, cells) && writeSideFiles(job, cells);
+    // One sync for all the files of the picture, written or not: what the run
+    // reports as written is on the disk.
+    if (!putOnDisk(job) || !written) {
         return;
     }
     if (!options_.quiet) {

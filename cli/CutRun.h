@@ -35,6 +35,7 @@ private:
     bool writePieces(const PictureJob& job, const Picture& picture, ProgressBar& progress,
                      SectionCells& cells);
     bool writeSideFiles(const PictureJob& job, const SectionCells& cells);
+    bool putOnDisk(const PictureJob& job);
     bool verify(const PictureJob& job, const Picture& picture);
     void warnAboutEmptySections(const PictureJob& job);
     void fail(const std::string& subject, const std::string& message);

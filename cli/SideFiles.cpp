@@ -19,7 +19,7 @@ void writeTextFile(const std::string& path, const std::string& text,
     if (!folder.empty()) {
         std::filesystem::create_directories(folder, error);
     }
-    AtomicFile file(path);
+    AtomicFile file(path, SyncMode::Deferred);
     file.Write(text);
     file.Commit();
     written.push_back(path);
