@@ -63,8 +63,8 @@ MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath,
                                                      registry_,
                                                      sysInfo_,
                                                      userFolders_} {
-    aboutWindow_.raise = [this](void (frmAbout::*event)()) {
-        RunOperation("The about window", [this, event] { RaiseAboutEvent(session_, event); });
+    aboutWindow_.raise = [this](void (frmAbout::*handler)()) {
+        RunOperation("The about window", [this, handler] { RaiseAboutEvent(session_, handler); });
     };
     setWindowTitle("Slicewright");
     setWindowIcon(ApplicationIcon());
@@ -142,9 +142,9 @@ void MainWindow::setupScrollBars() {
 
 // A value moved by the thumb is a Scroll, any other move a Change; letting go
 // of the thumb is a Change as well.
-void MainWindow::connectBar(QScrollBar* bar, void (*change)(Session&), void (*scroll)(Session&)) {
-    connect(bar, &QScrollBar::valueChanged, this, [this, bar, change, scroll] {
-        run("Scrolling the picture", bar->isSliderDown() ? scroll : change);
+void MainWindow::connectBar(QScrollBar* bar, void (*change)(Session&), void (*scrolled)(Session&)) {
+    connect(bar, &QScrollBar::valueChanged, this, [this, bar, change, scrolled] {
+        run("Scrolling the picture", bar->isSliderDown() ? scrolled : change);
     });
     connect(bar, &QScrollBar::sliderReleased, this,
             [this, change] { run("Scrolling the picture", change); });

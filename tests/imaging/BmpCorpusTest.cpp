@@ -105,7 +105,7 @@ INSTANTIATE_TEST_SUITE_P(
         CorpusCase{{"rgb111110_fields_v4", BmpInfo::WindowsV4, 32, 3, k111110}, 1},
         CorpusCase{{"rle8_escapes", BmpInfo::Windows, 8, 1}, 0},
         CorpusCase{{"rle4_escapes", BmpInfo::Windows, 4, 2}, 0}),
-    [](const testing::TestParamInfo<CorpusCase>& info) { return info.param.kind.name; });
+    [](const testing::TestParamInfo<CorpusCase>& testCase) { return testCase.param.kind.name; });
 
 } // namespace
 } // namespace sw

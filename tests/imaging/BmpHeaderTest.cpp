@@ -112,7 +112,7 @@ INSTANTIATE_TEST_SUITE_P(
         HostileHeader{"no_room_for_a_palette", withPixels(BmpHeaders(4, 4, 8, 0, 0, 16), 16),
                       "the BMP file is damaged: its picture needs colours, and it has none"},
         HostileHeader{"masks_cut_short", BmpHeaders(4, 4, 16, 3, 0, 0), kIncompleteFileProblem}),
-    [](const testing::TestParamInfo<HostileHeader>& info) { return info.param.name; });
+    [](const testing::TestParamInfo<HostileHeader>& testCase) { return testCase.param.name; });
 
 TEST(BmpHeader, RowCountsOfAnyHeaderNeitherOverflowNorPass) {
     BmpHeader h;
@@ -197,7 +197,7 @@ INSTANTIATE_TEST_SUITE_P(
                              "direction can be opened"},
                     SizeCase{"too_many_pixels", 11586, 11586,
                              "the picture is 11586 x 11586 pixels, too large to open"}),
-    [](const testing::TestParamInfo<SizeCase>& info) { return info.param.name; });
+    [](const testing::TestParamInfo<SizeCase>& testCase) { return testCase.param.name; });
 
 TEST(PictureSizeLimits, PixelBudgetHoldsOnBothSides) {
     EXPECT_FALSE(PictureSizeProblem(kMaxPictureSide, kMaxPicturePixels / kMaxPictureSide));

@@ -125,8 +125,8 @@ INSTANTIATE_TEST_SUITE_P(
         Hostile{"bomb.jpg", jpegClaiming(32767, 4097), tooManyPixels(32767, 4097)},
         Hostile{"too_tall.jpg", jpegClaiming(10, 40000), tooLarge(10, 40000)},
         Hostile{"too_wide.gif", gifClaiming(40000, 10), tooLarge(40000, 10)}),
-    [](const testing::TestParamInfo<Hostile>& info) {
-        std::string name = info.param.name;
+    [](const testing::TestParamInfo<Hostile>& testCase) {
+        std::string name = testCase.param.name;
         std::replace(name.begin(), name.end(), '.', '_');
         return name;
     });

@@ -96,8 +96,8 @@ INSTANTIATE_TEST_SUITE_P(
                     // Odd sizes leave part of a block and of a chroma sample at the edges.
                     JpegKind{"odd", "-resize 37x23! -quality 90 -sampling-factor 2x2"},
                     JpegKind{"restarts", "-quality 80 -define jpeg:restart-interval=2"}),
-    [](const testing::TestParamInfo<JpegKind>& info) {
-        std::string name = info.param.name;
+    [](const testing::TestParamInfo<JpegKind>& testCase) {
+        std::string name = testCase.param.name;
         std::replace(name.begin(), name.end(), '-', '_');
         return name;
     });

@@ -99,8 +99,8 @@ INSTANTIATE_TEST_SUITE_P(
         DecodeCase{"cmyk.jpg", convertRose("-colorspace CMYK"), 3, ""},
         DecodeCase{"animation.gif", convertRose("\\( rose: -negate \\) -loop 0"), 0, "[0]"},
         DecodeCase{"outside.gif", convertFile("'" + kProjectData + "/cmake-logo.gif'"), 0, ""}),
-    [](const testing::TestParamInfo<DecodeCase>& info) {
-        std::string name = info.param.name;
+    [](const testing::TestParamInfo<DecodeCase>& testCase) {
+        std::string name = testCase.param.name;
         std::replace(name.begin(), name.end(), '.', '_');
         return name;
     });
@@ -178,8 +178,8 @@ INSTANTIATE_TEST_SUITE_P(
         BadFile{"huge_screen.gif", gifWithScreen(60000, 60000), true,
                 "the picture is 60000 x 60000 pixels; at most 32767 pixels in either direction "
                 "can be opened"}),
-    [](const testing::TestParamInfo<BadFile>& info) {
-        std::string name = info.param.name;
+    [](const testing::TestParamInfo<BadFile>& testCase) {
+        std::string name = testCase.param.name;
         std::replace(name.begin(), name.end(), '.', '_');
         return name;
     });

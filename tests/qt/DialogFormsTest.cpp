@@ -60,8 +60,9 @@ private slots:
         frmAbout logic(ports.ports);
         logic.Form_Load();
         bool okRaised = false;
-        qt::AboutForm form(
-            logic, [&](void (frmAbout::*event)()) { okRaised = event == &frmAbout::cmdOK_Click; });
+        qt::AboutForm form(logic, [&](void (frmAbout::*handler)()) {
+            okRaised = handler == &frmAbout::cmdOK_Click;
+        });
         QCOMPARE(form.windowTitle(), QString("About Slicewright"));
         bool versionShown = false;
         for (QLabel* label : form.findChildren<QLabel*>()) {
