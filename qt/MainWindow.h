@@ -85,7 +85,7 @@ private:
     QtClipboard clipboard_;
     QtQualityDialog jpgCompDialog_{this};
     QtAboutWindow aboutWindow_{this};
-    QtShell shell_;
+    QtShell shell_{this};
     QtRegistry registry_;
     QtSystemInfoProgram sysInfo_;
     QtUserFolders userFolders_;
