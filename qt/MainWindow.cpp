@@ -1,11 +1,14 @@
 #include "qt/MainWindow.h"
 
 #include "dialogs/DialogCommands.h"
+#include "qt/OperationFailed.h"
 #include "qt/QtText.h"
+#include "qt/ToolbarImages.h"
 #include "window/DrawModeCommands.h"
 #include "window/EditCommands.h"
 #include "window/FormLifecycle.h"
 #include "window/MenuTree.h"
+#include "window/PictureOpening.h"
 #include "window/PointerFeedback.h"
 #include "window/Toolbar.h"
 #include "window/Viewport.h"
@@ -32,7 +35,8 @@ bool isCheckable(Item item) {
 
 } // namespace
 
-MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath)
+MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath,
+                       const std::string& dataPath)
     : picActual_(new PictureCanvas(nullptr)), ports_{boxes_,
                                                      dlgPic_,
                                                      *picActual_,
@@ -43,24 +47,44 @@ MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath)
                                                      files_,
                                                      exportDialogs_,
                                                      clipboard_,
-                                                     AppInfo{appPath, "Slicewright", "slicewright"},
+                                                     AppInfo{appPath, "Slicewright", "slicewright",
+                                                             dataPath},
                                                      jpgCompDialog_,
                                                      aboutWindow_,
                                                      shell_,
                                                      registry_,
-                                                     sysInfo_} {
-    aboutWindow_.raise = [this](void (frmAbout::*event)()) { RaiseAboutEvent(session_, event); };
+                                                     sysInfo_,
+                                                     userFolders_} {
+    aboutWindow_.raise = [this](void (frmAbout::*event)()) {
+        RunOperation("The about window", [this, event] { RaiseAboutEvent(session_, event); });
+    };
     setWindowTitle("Slicewright");
     setupMenus();
     setupClientArea();
     connectPicture();
     placeStoredLayout();
     Form_Load(session_);
+    keepMenuBarWhole();
 }
 
-void MainWindow::run(void (*handler)(Session&)) {
+// The five menus and the toolbar's nine entries must fit in a row at the
+// least width, or some of them go behind an overflow button; with a wider
+// font the window's least width rises to what they need. This is done after
+// Form_Load so that the logic notes the stored layout's least width and
+// margins, and a picture's window keeps its width wherever it is wider.
+void MainWindow::keepMenuBarWhole() {
+    setMinimumWidth(std::max(menuBar()->sizeHint().width(), tlbrMain_->sizeHint().width()));
+}
+
+void MainWindow::OpenPictureFile(const std::string& path) {
+    RunOperation("Open", [this, &path] { OpenChosenPicture(session_, path); });
+}
+
+// Every handler runs under the name the user knows it by, so that an
+// exception escaping it tells the user which operation broke off.
+void MainWindow::run(const std::string& operation, void (*handler)(Session&)) {
     if (handler != nullptr) {
-        handler(session_);
+        RunOperation(operation, [this, handler] { handler(session_); });
     }
 }
 
@@ -109,9 +133,11 @@ void MainWindow::setupScrollBars() {
 // A value moved by the thumb is a Scroll, any other move a Change; letting go
 // of the thumb is a Change as well.
 void MainWindow::connectBar(QScrollBar* bar, void (*change)(Session&), void (*scroll)(Session&)) {
-    connect(bar, &QScrollBar::valueChanged, this,
-            [this, bar, change, scroll] { (bar->isSliderDown() ? scroll : change)(session_); });
-    connect(bar, &QScrollBar::sliderReleased, this, [this, change] { change(session_); });
+    connect(bar, &QScrollBar::valueChanged, this, [this, bar, change, scroll] {
+        run("Scrolling the picture", bar->isSliderDown() ? scroll : change);
+    });
+    connect(bar, &QScrollBar::sliderReleased, this,
+            [this, change] { run("Scrolling the picture", change); });
 }
 
 // The stored layout, in twips: a client area of 3405 x 5325 under the menu
@@ -142,14 +168,20 @@ QAction* MainWindow::addMenuEntry(QMenu* menu, const MenuEntry& entry) {
     action->setCheckable(isCheckable(*entry.item));
     action->setChecked(entry.checked);
     const Command handler = entry.command;
-    connect(action, &QAction::triggered, this, [this, handler] { run(handler); });
+    // The remembered picture's item has the picture's path for its caption.
+    const std::string operation =
+        *entry.item == Item::mnuLastCut ? "Opening the last picture" : entry.caption;
+    connect(action, &QAction::triggered, this,
+            [this, operation, handler] { run(operation, handler); });
     return action;
 }
 
 QAction* MainWindow::addMenuBarCommand(const MenuEntry& entry) {
     QAction* action = menuBar()->addAction(ToQ(entry.caption));
     const Command handler = entry.command;
-    connect(action, &QAction::triggered, this, [this, handler] { run(handler); });
+    const std::string operation = entry.caption;
+    connect(action, &QAction::triggered, this,
+            [this, operation, handler] { run(operation, handler); });
     return action;
 }
 
@@ -181,6 +213,8 @@ void MainWindow::setupToolbar() {
     // that showing it moves nothing; it covers what is scrolled under it.
     tlbrMain_ = new QToolBar("Toolbar", area_);
     tlbrMain_->setMovable(false);
+    tlbrMain_->setIconSize(QSize(kToolbarImageSize, kToolbarImageSize));
+    tlbrMain_->setToolButtonStyle(Qt::ToolButtonIconOnly);
     tlbrMain_->setAutoFillBackground(true);
     int count = 0;
     const ToolbarEntry* entries = ToolbarEntries(count);
@@ -190,11 +224,14 @@ void MainWindow::setupToolbar() {
             tlbrMain_->addSeparator();
             continue;
         }
-        QAction* button = tlbrMain_->addAction(ToQ(entry.toolTip));
+        // Image only; the text stays for screen readers.
+        QAction* button = tlbrMain_->addAction(ToolbarImage(entry.image), ToQ(entry.toolTip));
         button->setToolTip(ToQ(entry.toolTip));
         const int index = entry.index;
-        connect(button, &QAction::triggered, this,
-                [this, index] { tlbrMain_ButtonClick(session_, index); });
+        const std::string operation = entry.toolTip;
+        connect(button, &QAction::triggered, this, [this, operation, index] {
+            RunOperation(operation, [this, index] { tlbrMain_ButtonClick(session_, index); });
+        });
         controls_.RegisterToolbarButton(index, button);
     }
     controls_.SetToolbarButtonEnabled(9, false);
@@ -208,13 +245,15 @@ void MainWindow::stretchToolbar() {
 }
 
 void MainWindow::connectPicture() {
-    picActual_->onMouseMove = [this](float x, float y) { picActual_MouseMove(session_, x, y); };
-    picActual_->onClick = [this] { picActual_Click(session_); };
+    picActual_->onMouseMove = [this](float x, float y) {
+        RunOperation("Following the pointer", [&] { picActual_MouseMove(session_, x, y); });
+    };
+    picActual_->onClick = [this] { run("Drawing a line", picActual_Click); };
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == area_ && event->type() == QEvent::MouseMove) {
-        Form_MouseMove(session_);
+        run("Following the pointer", Form_MouseMove);
     }
     return QMainWindow::eventFilter(watched, event);
 }
@@ -225,7 +264,7 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
     stretchToolbar();
     if (event->size() != event->oldSize()) {
-        Form_Resize(session_);
+        run("Laying out the window", Form_Resize);
     }
 }
 
@@ -239,13 +278,13 @@ void MainWindow::changeEvent(QEvent* event) {
     const auto* change = static_cast<QWindowStateChangeEvent*>(event);
     const bool wasMinimised = change->oldState() & Qt::WindowMinimized;
     if (wasMinimised != isMinimized()) {
-        Form_Resize(session_);
+        run("Laying out the window", Form_Resize);
     }
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    Form_Unload(session_);
     event->accept();
+    run("Closing the window", Form_Unload);
 }
 
 } // namespace sw::qt

@@ -18,6 +18,7 @@
 #include "qt/QtSettingsStore.h"
 #include "qt/QtShell.h"
 #include "qt/QtSystemInfoProgram.h"
+#include "qt/QtUserFolders.h"
 #include "session/Session.h"
 #include "window/MenuTree.h"
 
@@ -35,7 +36,12 @@ namespace sw::qt {
 // the handlers of the core and carries out what they ask through the ports.
 class MainWindow : public QMainWindow {
 public:
-    MainWindow(PictureLoader& loader, const std::string& appPath);
+    // appPath is the program's folder; dataPath the installed data folder, or
+    // empty when the program runs from its build folder.
+    MainWindow(PictureLoader& loader, const std::string& appPath, const std::string& dataPath = {});
+
+    // Opens a picture named on the command line as if the Open dialog had chosen it.
+    void OpenPictureFile(const std::string& path);
 
     Session& CurrentSession() { return session_; }
     PictureCanvas& Picture() { return *picActual_; }
@@ -58,9 +64,10 @@ private:
     void connectPicture();
     void connectBar(QScrollBar* bar, void (*change)(Session&), void (*scroll)(Session&));
     void stretchToolbar();
+    void keepMenuBarWhole();
     QAction* addMenuEntry(QMenu* menu, const MenuEntry& entry);
     QAction* addMenuBarCommand(const MenuEntry& entry);
-    void run(void (*handler)(Session&));
+    void run(const std::string& operation, void (*handler)(Session&));
 
     PictureCanvas* picActual_;
     QtMessageBoxes boxes_{this};
@@ -76,6 +83,7 @@ private:
     QtShell shell_;
     QtRegistry registry_;
     QtSystemInfoProgram sysInfo_;
+    QtUserFolders userFolders_;
     Ports ports_;
     Session session_{ports_};
     QWidget* area_ = nullptr;

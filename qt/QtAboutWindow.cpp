@@ -1,6 +1,7 @@
 #include "qt/QtAboutWindow.h"
 
 #include "dialogs/frmAbout.h"
+#include "qt/LastWindowRule.h"
 
 #include <QWidget>
 
@@ -33,6 +34,8 @@ void QtAboutWindow::Close() {
         window_ = nullptr;
     }
     form_.reset();
+    // Closed after the main window, it was the last one.
+    QuitWhenNoWindowIsLeft();
 }
 
 } // namespace sw::qt

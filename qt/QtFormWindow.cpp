@@ -122,19 +122,30 @@ void QtFormWindow::Refresh() {
     form_->update();
 }
 
+// The work area is what the desktop leaves to windows; where the window
+// manager's frame is wider than the form's allowance for it, the difference
+// comes off its width, so that a window as wide as the work area fits whole.
 ScreenMetrics QtFormWindow::Screen() const {
-    const QSize size = form_->screen()->geometry().size();
-    return {twips(size.width()), twips(size.height()), kTwipsPerPixel};
+    const QScreen* screen = form_->screen();
+    const QSize size = screen->geometry().size();
+    const QRect available = screen->availableGeometry();
+    const int frameExcess =
+        std::max(0, form_->frameGeometry().width() - form_->width() - PixelsOf(kFrameWidth));
+    const TwipRect work{twips(available.x()), twips(available.y()),
+                        twips(available.width() - frameExcess), twips(available.height())};
+    return {twips(size.width()), twips(size.height()), kTwipsPerPixel, work};
 }
 
 void QtFormWindow::SetMousePointer(MousePointer pointer) {
+    // The pointer itself tells whether it is busy: an operation broken off by
+    // an exception may have left it so, and the event boundary put it back.
     const bool busy = pointer == MousePointer::Hourglass;
-    if (busy && !busy_) {
+    const bool shown = QApplication::overrideCursor() != nullptr;
+    if (busy && !shown) {
         QApplication::setOverrideCursor(Qt::WaitCursor);
-    } else if (!busy && busy_) {
+    } else if (!busy && shown) {
         QApplication::restoreOverrideCursor();
     }
-    busy_ = busy;
 }
 
 void QtFormWindow::Unload() {

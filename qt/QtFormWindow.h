@@ -49,7 +49,6 @@ private:
     ScrollBar* vscroll_ = nullptr;
     CornerPiece* picResize_ = nullptr;
     std::vector<FormControl*> controls_;
-    bool busy_ = false;
 };
 
 } // namespace sw::qt

@@ -1,6 +1,7 @@
 #include "common/AtomicFile.h"
 
 #include "common/FileWriteError.h"
+#include "common/ProcessUmask.h"
 
 #include <cerrno>
 #include <cstring>
@@ -27,16 +28,34 @@ std::string nameOf(const std::string& path) {
     return slash == std::string::npos ? path : path.substr(slash + 1);
 }
 
-// A new file takes the permissions a new file would get; a replaced file keeps its own.
-void matchPermissions(int fd, const std::string& target) {
+// A hidden name beside the target's. A target name may use all 255 bytes a
+// name can have: its start is enough to tell whose temporary file this is.
+std::string temporaryName(const std::string& name) {
+    constexpr std::size_t kLongestName = 255;
+    const std::string suffix = ".XXXXXX";
+    return "." + name.substr(0, kLongestName - 1 - suffix.size()) + suffix;
+}
+
+// A new file takes the permissions a new file would get (mkstemp makes it
+// 0600, which a web server serving the sections could not read); a replaced
+// file keeps its own.
+bool matchPermissions(int fd, const std::string& target) {
     struct stat old {};
-    if (::stat(target.c_str(), &old) == 0) {
-        ::fchmod(fd, old.st_mode & 07777);
-        return;
+    const mode_t mode =
+        ::stat(target.c_str(), &old) == 0 ? old.st_mode & 07777 : 0666 & ~ProcessUmask();
+    return ::fchmod(fd, mode) == 0;
+}
+
+// Makes a rename in the folder survive a power loss. Called once the new
+// file is in place, so a folder that cannot be synced (one the user may
+// write but not read, a file system that syncs no folders) costs only that
+// guarantee, not the file: it is no failure.
+void syncFolder(const std::string& folder) {
+    const int fd = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd >= 0) {
+        ::fsync(fd);
+        ::close(fd);
     }
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    ::fchmod(fd, 0666 & ~mask);
 }
 
 } // namespace
@@ -60,27 +79,39 @@ std::string SystemErrorText(int error) {
         return "the disk quota is used up";
     case EFBIG:
         return "the file would be too large";
+    case ENAMETOOLONG:
+        return "the name is too long";
     default:
         return std::strerror(error);
     }
 }
 
 AtomicFile::AtomicFile(std::string path) : path_(std::move(path)) {
-    std::string pattern = folderOf(path_) + "/." + nameOf(path_) + ".XXXXXX";
-    fd_ = ::mkstemp(pattern.data());
+    std::string pattern = folderOf(path_) + "/" + temporaryName(nameOf(path_));
+    fd_ = ::mkostemp(pattern.data(), O_CLOEXEC);
     if (fd_ < 0) {
         fail(SystemErrorText(errno));
     }
     temporary_ = pattern;
-    matchPermissions(fd_, path_);
+    if (!matchPermissions(fd_, path_)) {
+        const int error = errno;
+        discard();
+        fail(SystemErrorText(error));
+    }
 }
 
 AtomicFile::~AtomicFile() {
+    discard();
+}
+
+void AtomicFile::discard() {
     if (fd_ >= 0) {
         ::close(fd_);
+        fd_ = -1;
     }
     if (!committed_ && !temporary_.empty()) {
         ::unlink(temporary_.c_str());
+        temporary_.clear();
     }
 }
 
@@ -104,9 +135,11 @@ void AtomicFile::Write(const void* data, std::size_t size) {
 }
 
 void AtomicFile::Commit() {
-    // No fsync: an export writes hundreds of files, and the rename over an
-    // existing file is already ordered after its data by the usual Linux
-    // file systems. Errors the disk reports late still surface at close.
+    // The data reaches the disk before the name points at it, so that a
+    // power loss leaves the old file or the new one, never an empty one.
+    if (::fsync(fd_) != 0) {
+        fail(SystemErrorText(errno));
+    }
     const int closed = ::close(fd_);
     fd_ = -1;
     if (closed != 0) {
@@ -116,6 +149,7 @@ void AtomicFile::Commit() {
         fail(SystemErrorText(errno));
     }
     committed_ = true;
+    syncFolder(folderOf(path_));
 }
 
 bool ReadWholeFile(const std::string& path, std::string& contents, std::string& reason) {

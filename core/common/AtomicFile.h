@@ -9,8 +9,9 @@
 namespace sw {
 
 // Writes a file through a temporary file in the same folder that is renamed
-// over the target only once everything is written and flushed: a failed write
-// leaves an existing file of that name as it was. Failures throw FileWriteError.
+// over the target only once everything is written and on the disk: a failed
+// write, or a power loss, leaves an existing file of that name as it was.
+// Failures throw FileWriteError.
 class AtomicFile {
 public:
     explicit AtomicFile(std::string path);
@@ -24,12 +25,15 @@ public:
     void Write(const void* data, std::size_t size);
     void Write(std::string_view text) { Write(text.data(), text.size()); }
 
-    // Flushes, closes and renames over the target. Without Commit the
-    // temporary file is removed and the target is untouched.
+    // Syncs, closes and renames over the target, then syncs the folder.
+    // Without Commit, or when it fails before the rename, the temporary file
+    // is removed and the target is untouched.
     void Commit();
 
 private:
     void fail(const std::string& reason);
+    // Closes and removes the temporary file, unless it has become the target.
+    void discard();
     std::string path_;
     std::string temporary_;
     int fd_ = -1;

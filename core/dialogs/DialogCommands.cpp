@@ -1,6 +1,7 @@
 #include "dialogs/DialogCommands.h"
 
 #include "common/Numbers.h"
+#include "dialogs/HelpPage.h"
 #include "dialogs/frmAbout.h"
 #include "dialogs/frmJPGComp.h"
 #include "session/Session.h"
@@ -9,8 +10,6 @@
 
 namespace sw {
 namespace {
-
-constexpr const char* kHelpPage = "/Help/MainHelp.htm";
 
 // Always 15 twips to the pixel, whatever the display's own measure is.
 std::string pixels(float twips) {
@@ -37,7 +36,7 @@ void mnuProgram_Click(Session& session) {
 }
 
 void mnuHelp_Click(Session& session) {
-    session.ports.shell.OpenDocument(session.ports.app.Path + kHelpPage);
+    session.ports.shell.OpenDocument(HelpPagePath(session.ports.app, session.ports.files));
 }
 
 std::string PictureFactsText(float widthTwips, float heightTwips) {

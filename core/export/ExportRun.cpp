@@ -14,11 +14,6 @@
 namespace sw {
 namespace {
 
-// Section numbers have at most seven digits; a grid beyond that (only a
-// line file or equal division on a huge picture can make one) would also
-// take more memory and files than any user wants from one command.
-constexpr std::int64_t kMostSections = 9'999'999;
-
 bool tooManySections(Session& session) {
     const SessionState& s = session.state;
     const std::int64_t sections =

@@ -3,7 +3,14 @@
 #include "common/OneBasedArray.h"
 #include "export/CutPlan.h"
 
+#include <cstdint>
+
 namespace sw {
+
+// Section numbers have at most seven digits; a grid beyond that (only a
+// line file or equal division on a huge picture can make one) would also
+// take more memory and files than any user wants from one command.
+inline constexpr std::int64_t kMostSections = 9'999'999;
 
 // Sorts the first `count` entries of a stored line array in place, ascending.
 void SortLines(OneBasedArray<i16>& lines, i16 count);

@@ -63,7 +63,9 @@ void mnuSaveLines_Click(Session& session) {
 void PrepareLineFileDialog(Session& session) {
     FileDialog& dlg = session.ports.dlgPic;
     dlg.FileName.clear();
-    dlg.InitDir = session.ports.app.Path;
+    // The program's folder is a system folder once installed: line files start
+    // in the user's Pictures folder, where the pictures they fit are.
+    dlg.InitDir = session.ports.userFolders.PicturesFolder();
     dlg.Filter = kLineFileFilter;
 }
 

@@ -12,6 +12,9 @@ struct AppInfo {
     std::string Title = "Slicewright";
     // The program file's name without extension.
     std::string ExeName = "slicewright";
+    // The installed data folder (help page and other files of the program),
+    // or empty when the program runs from its build folder.
+    std::string DataPath;
 };
 
 } // namespace sw

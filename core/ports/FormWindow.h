@@ -21,7 +21,19 @@ struct ScreenMetrics {
     float Width = 0;
     float Height = 0;
     float TwipsPerPixelX = 15;
+    // The part of the screen that windows may take (less panels and docks,
+    // and less any window frame wider than the form's own allowance); empty
+    // where it is the whole screen.
+    TwipRect WorkArea{};
 };
+
+// The work area of the screen, the whole screen where none is given.
+inline TwipRect WorkAreaOf(const ScreenMetrics& screen) {
+    if (screen.WorkArea.Width > 0 && screen.WorkArea.Height > 0) {
+        return screen.WorkArea;
+    }
+    return {0, 0, screen.Width, screen.Height};
+}
 
 enum class MousePointer { Default = 0, Hourglass = 11 };
 

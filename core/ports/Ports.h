@@ -16,6 +16,7 @@
 #include "ports/SettingsStore.h"
 #include "ports/Shell.h"
 #include "ports/SystemInfoProgram.h"
+#include "ports/UserFolders.h"
 
 namespace sw {
 
@@ -40,6 +41,8 @@ struct Ports {
     Shell& shell;
     Registry& registry;
     SystemInfoProgram& sysInfo;
+    // Where a first run starts its dialogs.
+    UserFolders& userFolders;
 };
 
 } // namespace sw

@@ -61,28 +61,14 @@ std::optional<i16> askSections(Session& session, Direction direction, const Dire
     if (answer.empty()) {
         return std::nullopt;
     }
-    const Converted<i16> n = TextToInteger(answer);
-    if (n.error == ConversionError::Overflow) {
-        refuse(session, "Sectioning Error",
-               "With a number that large, I think you need something a little more high test "
-               "than this!");
-        return std::nullopt;
-    }
-    if (!IsNumericText(answer)) {
-        refuse(session, "Sectioning Error", "Number of sections must be numeric");
-        return std::nullopt;
-    }
-    if (n.value <= 1) {
-        refuse(session, "Sectioning Error", "Number of sections must be greater than 1");
-        return std::nullopt;
-    }
     PictureBox& box = session.ports.picActual;
     const float size = direction == Direction::Horizontal ? box.Height() : box.Width();
-    if (sectionSize(size, n.value) < 1.0f) {
-        refuse(session, "Sectioning Error", texts.tooMany);
+    const SectionCount count = CountSections(answer, direction, size);
+    if (count.refusal) {
+        refuse(session, "Sectioning Error", *count.refusal);
         return std::nullopt;
     }
-    return n.value;
+    return count.sections;
 }
 
 void reportNoMemory(Session& session) {
@@ -90,6 +76,26 @@ void reportNoMemory(Session& session) {
 }
 
 } // namespace
+
+SectionCount CountSections(std::string_view answer, Direction direction, float sizeInTwips) {
+    // The order of the tests matters: an overflow is named before the text is
+    // asked whether it is a number at all.
+    const Converted<i16> n = TextToInteger(answer);
+    if (n.error == ConversionError::Overflow) {
+        return {0, "With a number that large, I think you need something a little more high test "
+                   "than this!"};
+    }
+    if (!IsNumericText(answer)) {
+        return {0, "Number of sections must be numeric"};
+    }
+    if (n.value <= 1) {
+        return {0, "Number of sections must be greater than 1"};
+    }
+    if (sectionSize(sizeInTwips, n.value) < 1.0f) {
+        return {0, textsFor(direction).tooMany};
+    }
+    return {n.value, std::nullopt};
+}
 
 std::vector<i16> EqualPositions(float sizeInTwips, i16 sections) {
     std::vector<i16> positions;

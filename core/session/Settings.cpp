@@ -24,13 +24,21 @@ i32 qualityFromText(const std::string& text) {
     return quality.ok() ? quality.value : kDefaultJpgQuality;
 }
 
+// The program's folder is no place for the user's pictures: a first run, and a
+// stored folder that has since gone, start in the user's Pictures folder.
+std::string readFolder(Session& session, const char* key) {
+    UserFolders& folders = session.ports.userFolders;
+    const std::string pictures = folders.PicturesFolder();
+    const std::string stored = read(session, key, pictures);
+    return folders.FolderExists(stored) ? stored : pictures;
+}
+
 } // namespace
 
 void LoadSettings(Session& session) {
     SessionState& s = session.state;
-    const std::string& appPath = session.ports.app.Path;
-    s.LastOpenDir = read(session, "LastOpenDir", appPath);
-    s.LastSaveDir = read(session, "LastSaveDir", appPath);
+    s.LastOpenDir = readFolder(session, "LastOpenDir");
+    s.LastSaveDir = readFolder(session, "LastSaveDir");
     s.LastPicture = read(session, "LastPicture", " ");
     s.SaveFormat = read(session, "SaveFormat", "BMP");
     s.HTMLOut = read(session, "HTMLOut", "N");

@@ -30,6 +30,8 @@ std::vector<EventEntry> buildTable() {
         simple("mnuExit_Click", mnuExit_Click),
         simple("mnuOPen_Click", mnuOPen_Click),
         simple("mnuLastCut_Click", mnuLastCut_Click),
+        {"OpenChosenPicture", 1,
+         [](Session& s, const EventArgs& args) { OpenChosenPicture(s, args[0]); }},
         simple("mnuCreate_Click", mnuCreate_Click),
         simple("picActual_Click", picActual_Click),
         simple("mnuUndo_Click", mnuUndo_Click),

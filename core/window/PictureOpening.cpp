@@ -74,6 +74,10 @@ void mnuOPen_Click(Session& session) {
     if (path.empty()) {
         return;
     }
+    OpenChosenPicture(session, path);
+}
+
+void OpenChosenPicture(Session& session, const std::string& path) {
     const std::optional<Picture> picture = decode(session, path);
     if (!picture) {
         return;

@@ -8,8 +8,9 @@ struct Session;
 
 // Takes a window that is not maximised back to its least width.
 void NarrowWindow(Session& session);
-// Gives a normal window the picture's size within the limits, and centres it
-// when it now crosses the screen's right edge.
+// Gives a normal window the picture's size within the limits (never wider
+// than the screen's work area), and centres it when it now crosses the
+// screen's right edge.
 void FitNormalWindow(Session& session);
 // Notes where the picture stands, takes a maximised window back to normal in
 // each direction in which the picture fits the screen, and lays it out.

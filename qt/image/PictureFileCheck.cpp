@@ -1,61 +1,12 @@
 #include "qt/image/PictureFileCheck.h"
 
-#include <algorithm>
+#include "imaging/PictureProblems.h"
+
 #include <array>
-#include <cstdint>
-#include <cstdlib>
 #include <fstream>
-#include <limits>
 
 namespace sw {
 namespace {
-
-constexpr const char* kCutOff = "the file is incomplete: it ends before the picture does";
-
-struct BmpHeader {
-    std::uint32_t pixelOffset = 0;
-    std::uint32_t infoSize = 0;
-    std::int32_t width = 0;
-    std::int32_t height = 0;
-    std::uint32_t bits = 0;
-    std::uint32_t compression = 0;
-};
-
-std::uint32_t littleEndian(const std::array<unsigned char, 54>& bytes, int at, int count) {
-    std::uint32_t value = 0;
-    for (int i = count - 1; i >= 0; --i) {
-        value = value << 8 | bytes[static_cast<std::size_t>(at + i)];
-    }
-    return value;
-}
-
-// The file and info headers of a BMP file with a Windows (40 bytes or more) header.
-std::optional<BmpHeader> readBmpHeader(std::istream& file) {
-    std::array<unsigned char, 54> bytes{};
-    if (!file.read(reinterpret_cast<char*>(bytes.data()), bytes.size()) || bytes[0] != 'B' ||
-        bytes[1] != 'M' || littleEndian(bytes, 14, 4) < 40) {
-        return std::nullopt;
-    }
-    return BmpHeader{littleEndian(bytes, 10, 4),
-                     littleEndian(bytes, 14, 4),
-                     static_cast<std::int32_t>(littleEndian(bytes, 18, 4)),
-                     static_cast<std::int32_t>(littleEndian(bytes, 22, 4)),
-                     littleEndian(bytes, 28, 2),
-                     littleEndian(bytes, 30, 4)};
-}
-
-// An uncompressed BMP must hold every row its header announces; run-length
-// data says nothing about its length.
-bool bmpIsCutOff(std::ifstream& file, std::uint64_t fileSize) {
-    const std::optional<BmpHeader> header = readBmpHeader(file);
-    if (!header || (header->compression != 0 && header->compression != 3)) {
-        return false;
-    }
-    const auto width = static_cast<std::uint64_t>(std::abs(std::int64_t{header->width}));
-    const auto rows = static_cast<std::uint64_t>(std::abs(std::int64_t{header->height}));
-    const std::uint64_t stride = (width * header->bits + 31) / 32 * 4;
-    return fileSize < header->pixelOffset + stride * rows;
-}
 
 // A complete JPG ends its last scan with an end-of-image marker. Inside
 // entropy-coded data a 0xFF byte is always followed by 0x00 or a restart
@@ -128,28 +79,24 @@ bool gifIsCutOff(std::ifstream& file) {
 } // namespace
 
 std::optional<std::string> TruncationProblem(const std::string& path, const std::string& format) {
-    std::ifstream file(path, std::ios::binary | std::ios::ate);
+    std::ifstream file(path, std::ios::binary);
     if (!file) {
         return std::nullopt;
     }
-    const auto fileSize = static_cast<std::uint64_t>(file.tellg());
-    file.seekg(0);
-    const bool cutOff = format == "bmp"    ? bmpIsCutOff(file, fileSize)
-                        : format == "jpeg" ? jpgIsCutOff(file)
-                        : format == "gif"  ? gifIsCutOff(file)
-                                           : false;
-    return cutOff ? std::optional<std::string>(kCutOff) : std::nullopt;
+    const bool cutOff = format == "jpeg"  ? jpgIsCutOff(file)
+                        : format == "gif" ? gifIsCutOff(file)
+                                          : false;
+    return cutOff ? std::optional<std::string>(kIncompleteFileProblem) : std::nullopt;
 }
 
-std::optional<QSize> ClaimedBmpSize(const std::string& path) {
+std::optional<std::pair<int, int>> GifScreenSize(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
-    const std::optional<BmpHeader> header = readBmpHeader(file);
-    if (!header) {
+    std::array<unsigned char, 10> header{};
+    if (!file.read(reinterpret_cast<char*>(header.data()), header.size()) || header[0] != 'G' ||
+        header[1] != 'I' || header[2] != 'F') {
         return std::nullopt;
     }
-    const auto height = static_cast<int>(std::min<std::int64_t>(
-        std::abs(std::int64_t{header->height}), std::numeric_limits<int>::max()));
-    return QSize(header->width, height);
+    return std::pair<int, int>(header[6] | header[7] << 8, header[8] | header[9] << 8);
 }
 
 } // namespace sw

@@ -1,7 +1,9 @@
 #include "qt/image/QtPictureLoader.h"
 
+#include "imaging/BmpFile.h"
 #include "imaging/JpegReader.h"
-#include "imaging/PlainBmpReader.h"
+#include "imaging/PictureLimits.h"
+#include "imaging/PictureProblems.h"
 #include "qt/image/PictureFileCheck.h"
 
 #include <QFileInfo>
@@ -18,10 +20,6 @@ LoadedPicture failure(std::string reason) {
     LoadedPicture result;
     result.error = std::move(reason);
     return result;
-}
-
-std::string sizeText(QSize size) {
-    return std::to_string(size.width()) + " x " + std::to_string(size.height()) + " pixels";
 }
 
 // Why the file cannot even be handed to a decoder, if it cannot.
@@ -43,26 +41,9 @@ std::optional<std::string> fileProblem(const QFileInfo& file) {
 
 std::optional<std::string> sizeProblem(QSize size) {
     if (!size.isValid() || size.isEmpty()) {
-        return "the file is not a BMP, JPG or GIF picture, or it is damaged";
+        return kNotAPictureProblem;
     }
-    if (size.width() > QtPictureLoader::kMaxSide || size.height() > QtPictureLoader::kMaxSide) {
-        return "the picture is " + sizeText(size) + "; at most " +
-               std::to_string(QtPictureLoader::kMaxSide) +
-               " pixels in either direction can be opened";
-    }
-    if (std::int64_t{size.width()} * size.height() > QtPictureLoader::kMaxPixels) {
-        return "the picture is " + sizeText(size) + ", too large to open";
-    }
-    return std::nullopt;
-}
-
-// The size the header gives, whether or not Qt would decode such a picture.
-QSize headerSize(QImageReader& reader, const std::string& path) {
-    const QSize size = reader.size();
-    if (size.isValid()) {
-        return size;
-    }
-    return ClaimedBmpSize(path).value_or(size);
+    return PictureSizeProblem(size.width(), size.height());
 }
 
 // Qt refuses to allocate images beyond a global limit; it must admit every
@@ -88,19 +69,16 @@ Picture toPicture(QImage bgr) {
     return Picture::FromBottomUpBgr(width, height, std::move(bytes));
 }
 
-// A BMP whose pixels already lie as a picture keeps them is read in one go:
-// the most common BMP opens several times faster, with half the memory.
-LoadedPicture loadPlainBmp(const std::string& path, const PlainBmp& layout) {
-    if (const std::optional<std::string> problem =
-            sizeProblem(QSize(layout.width, layout.height))) {
-        return failure(*problem);
-    }
-    std::optional<Picture> picture = ReadPlainBmp(path, layout);
-    if (!picture) {
-        return failure("the file is incomplete: it ends before the picture does");
+// Every BMP goes to the project's own reader, which takes the kinds Qt's
+// reader gets wrong (16-bit and wide bit fields, OS/2 headers) and reads the
+// common 24-bit kind in one go.
+LoadedPicture loadBmp(const std::string& path) {
+    BmpRead read = ReadBmpFile(path);
+    if (!read.picture) {
+        return failure(read.problem);
     }
     LoadedPicture result;
-    result.picture = std::move(*picture);
+    result.picture = std::move(*read.picture);
     return result;
 }
 
@@ -140,8 +118,8 @@ LoadedPicture QtPictureLoader::LoadPicture(const std::string& path) {
     if (const std::optional<std::string> problem = fileProblem(QFileInfo(name))) {
         return failure(*problem);
     }
-    if (const std::optional<PlainBmp> plain = ProbePlainBmp(path)) {
-        return loadPlainBmp(path, *plain);
+    if (IsBmpFile(path)) {
+        return loadBmp(path);
     }
     if (JpegReader::IsJpeg(path)) {
         if (std::optional<LoadedPicture> loaded = loadJpeg(path)) {
@@ -151,8 +129,14 @@ LoadedPicture QtPictureLoader::LoadPicture(const std::string& path) {
     allowPicturesUpToTheBudget();
     QImageReader reader(name);
     reader.setAutoTransform(false);
-    if (const std::optional<std::string> problem = sizeProblem(headerSize(reader, path))) {
+    if (const std::optional<std::string> problem = sizeProblem(reader.size())) {
         return failure(*problem);
+    }
+    if (const std::optional<std::pair<int, int>> screen = GifScreenSize(path)) {
+        if (const std::optional<std::string> problem =
+                PictureSizeProblem(screen->first, screen->second)) {
+            return failure(*problem);
+        }
     }
     if (const std::optional<std::string> problem =
             TruncationProblem(path, reader.format().toStdString())) {
@@ -162,6 +146,10 @@ LoadedPicture QtPictureLoader::LoadPicture(const std::string& path) {
     if (decoded.isNull()) {
         return failure("the file is damaged: its picture cannot be decoded (" +
                        reader.errorString().toStdString() + ")");
+    }
+    // The last guard: no reader may give more than its header said and the checks let in.
+    if (const std::optional<std::string> problem = sizeProblem(decoded.size())) {
+        return failure(*problem);
     }
     LoadedPicture result;
     result.picture = toPicture(std::move(decoded));

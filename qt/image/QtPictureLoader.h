@@ -1,5 +1,6 @@
 #pragma once
 
+#include "imaging/PictureLimits.h"
 #include "ports/PictureLoader.h"
 
 #include <cstdint>
@@ -13,10 +14,8 @@ namespace sw {
 // Works without a QGuiApplication.
 class QtPictureLoader : public PictureLoader {
 public:
-    // Section lines are 16-bit pixel positions.
-    static constexpr int kMaxSide = 32767;
-    // The decoded pixels at 4 bytes each, which is what the reader takes.
-    static constexpr std::int64_t kMaxPixels = std::int64_t{128} * 1024 * 1024;
+    static constexpr int kMaxSide = kMaxPictureSide;
+    static constexpr std::int64_t kMaxPixels = kMaxPicturePixels;
 
     LoadedPicture LoadPicture(const std::string& path) override;
 };

@@ -9,6 +9,7 @@
 #   check-export-output.sh files|browser RUNNER PICTURE WORKDIR
 set -euo pipefail
 
+render_page=$(cd "$(dirname "$0")/.." && pwd)/render-in-chromium.sh
 mode=$1
 runner=$2
 picture=$3
@@ -148,22 +149,11 @@ check_sections() {
     echo "checked $number BMP and $number JPG sections"
 }
 
-# render_table HTML: the table as the browser shows it, cut to the picture's size.
+# render_table HTML SHOWN: the table as the browser shows it, cut to the picture's
+# size; the page's body keeps its default margin of 8 pixels, where the table starts.
 render_table() {
-    local html=$1 shown=$2
-    local profile
-    profile=$(mktemp -d)
-    # The page's body keeps its default margin of 8 pixels; the table starts there.
-    local margin=8
-    "$chromium" --headless --no-sandbox --disable-gpu --disable-quic --no-first-run \
-        --disable-background-networking --disable-component-update --disable-sync \
-        --user-data-dir="$profile" --hide-scrollbars --force-device-scale-factor=1 \
-        --window-size=$((width + 2 * margin)),$((height + 2 * margin)) \
-        --screenshot="$work/screen.png" "file://$work/$html" > chromium.log 2>&1 || true
-    rm -rf "$profile"
-    [[ -s screen.png ]] || fail "chromium made no screenshot of $html: $(tail -3 chromium.log)"
-    "$convert" screen.png -crop "${width}x${height}+${margin}+${margin}" +repage "$shown"
-    rm -f screen.png
+    "$render_page" "$work/$1" "$2" "$width" "$height" 8 ||
+        fail "no rendering of $1"
 }
 
 check_browser() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAction>
 #include <QPushButton>
 #include <QWidget>
 
@@ -10,6 +11,16 @@ inline QPushButton* FindButton(QWidget& form, const QString& caption) {
     for (QPushButton* candidate : form.findChildren<QPushButton*>()) {
         if (candidate->text() == caption) {
             return candidate;
+        }
+    }
+    return nullptr;
+}
+
+// The action of a window by its text, or nullptr.
+inline QAction* FindAction(QWidget& window, const QString& text) {
+    for (QAction* action : window.findChildren<QAction*>()) {
+        if (action->text() == text) {
+            return action;
         }
     }
     return nullptr;

@@ -4,17 +4,21 @@
 
 #include "imaging/Picture.h"
 #include "qt/QtSettingsStore.h"
+#include "tests/qt/FindWidgets.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QMenuBar>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolBar>
+#include <memory>
 
 using namespace sw;
 
@@ -28,15 +32,6 @@ public:
     }
 };
 
-QAction* findAction(QWidget* window, const QString& text) {
-    for (QAction* action : window->findChildren<QAction*>()) {
-        if (action->text() == text) {
-            return action;
-        }
-    }
-    return nullptr;
-}
-
 } // namespace
 
 class MainWindowTest : public QObject {
@@ -46,35 +41,58 @@ private slots:
     void init() {
         QVERIFY(config_.isValid());
         qputenv("XDG_CONFIG_HOME", config_.path().toUtf8());
+        // A fresh home for every test, with no Pictures folder unless the test makes one.
+        home_ = std::make_unique<QTemporaryDir>();
+        QVERIFY(home_->isValid());
+        qputenv("HOME", home_->path().toUtf8());
     }
 
     void commandsStartAsTheStoredLayoutHasThem() {
         FixedLoader loader;
         qt::MainWindow window(loader, "/opt/slicewright");
-        QVERIFY(!findAction(&window, "Edit")->isEnabled());
-        QVERIFY(!findAction(&window, "Create Sections")->isEnabled());
-        QVERIFY(!findAction(&window, "Undo Last")->isEnabled());
-        QVERIFY(findAction(&window, "Horizontal Line")->isChecked());
-        QVERIFY(findAction(&window, "Black")->isChecked());
-        QVERIFY(!findAction(&window, "Red")->isChecked());
-        QVERIFY(findAction(&window, "Open")->isEnabled());
+        QVERIFY(!test::FindAction(window, "Edit")->isEnabled());
+        QVERIFY(!test::FindAction(window, "Create Sections")->isEnabled());
+        QVERIFY(!test::FindAction(window, "Undo Last")->isEnabled());
+        QVERIFY(test::FindAction(window, "Horizontal Line")->isChecked());
+        QVERIFY(test::FindAction(window, "Black")->isChecked());
+        QVERIFY(!test::FindAction(window, "Red")->isChecked());
+        QVERIFY(test::FindAction(window, "Open")->isEnabled());
         QVERIFY(!window.findChild<QToolBar*>()->isVisibleTo(&window));
         QCOMPARE(window.windowTitle(), QString("Slicewright"));
     }
 
     void exitWritesTheSixSettingsToTheUsersConfigFile() {
+        QVERIFY(QDir(home_->path()).mkpath("Pictures"));
         FixedLoader loader;
         qt::MainWindow window(loader, "/opt/slicewright");
         window.show();
-        findAction(&window, "Exit")->trigger();
+        test::FindAction(window, "Exit")->trigger();
         QVERIFY(!window.isVisible());
         QSettings stored(config_.filePath("Corvane-Studio.ini"), QSettings::IniFormat);
-        QCOMPARE(stored.value("Slicewright/LastOpenDir").toString(), QString("/opt/slicewright"));
+        // A first run starts in the user's Pictures folder, not the program's.
+        const QString pictures = home_->filePath("Pictures");
+        QCOMPARE(stored.value("Slicewright/LastOpenDir").toString(), pictures);
+        QCOMPARE(stored.value("Slicewright/LastSaveDir").toString(), pictures);
         QCOMPARE(stored.value("Slicewright/LastPicture").toString(), QString(" "));
         QCOMPARE(stored.value("Slicewright/SaveFormat").toString(), QString("BMP"));
         QCOMPARE(stored.value("Slicewright/HTMLOut").toString(), QString("N"));
         QCOMPARE(stored.value("Slicewright/JPGComp").toString(), QString("90"));
-        QVERIFY(stored.contains("Slicewright/LastSaveDir"));
+    }
+
+    // Without a Pictures folder the home folder stands in, and so it does for
+    // a stored folder that has gone; a stored folder that exists is kept.
+    void firstRunFoldersFallBackToHome() {
+        const QString kept = home_->filePath("kept");
+        QVERIFY(QDir(home_->path()).mkpath("kept"));
+        qt::QtSettingsStore store;
+        store.SaveSetting("Corvane-Studio", "Slicewright", "LastOpenDir", kept.toStdString());
+        store.SaveSetting("Corvane-Studio", "Slicewright", "LastSaveDir",
+                          home_->filePath("gone/").toStdString());
+        FixedLoader loader;
+        qt::MainWindow window(loader, "/opt/slicewright");
+        const SessionState& state = window.CurrentSession().state;
+        QCOMPARE(QString::fromStdString(state.LastOpenDir), kept);
+        QCOMPARE(QString::fromStdString(state.LastSaveDir), home_->path());
     }
 
     void aStoredLastPictureBecomesTheRememberedItem() {
@@ -82,7 +100,7 @@ private slots:
                                           "/home/ann/gone.jpg");
         FixedLoader loader;
         qt::MainWindow window(loader, "/opt/slicewright");
-        QAction* lastCut = findAction(&window, "/home/ann/gone.jpg");
+        QAction* lastCut = test::FindAction(window, "/home/ann/gone.jpg");
         QVERIFY(lastCut != nullptr);
         QVERIFY(lastCut->isVisible());
     }
@@ -140,11 +158,71 @@ private slots:
         }
         QCOMPARE(session.state.hLineCount, static_cast<i16>(1));
         QCOMPARE(session.state.hLines(1), static_cast<i16>(12));
-        QVERIFY(findAction(&window, "Undo Last")->isEnabled());
+        QVERIFY(test::FindAction(window, "Undo Last")->isEnabled());
+    }
+
+    // A narrow picture leaves the window at its least width, where the five
+    // menus and the toolbar's nine entries still stand in one row each,
+    // with no overflow button.
+    void atTheLeastWidthEveryMenuAndButtonIsInView() {
+        qt::QtSettingsStore().SaveSetting("Corvane-Studio", "Slicewright", "LastPicture",
+                                          "/pictures/narrow.bmp");
+        FixedLoader loader;
+        qt::MainWindow window(loader, "/opt/slicewright");
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        test::FindAction(window, "/pictures/narrow.bmp")->trigger();
+        QApplication::processEvents();
+        QCOMPARE(window.width(), window.minimumWidth());
+        QMenuBar* menus = window.menuBar();
+        QCOMPARE(menus->actions().size(), 5);
+        for (QAction* menu : menus->actions()) {
+            QVERIFY2(menus->rect().contains(menus->actionGeometry(menu)), qPrintable(menu->text()));
+        }
+        auto* toolbar = window.findChild<QToolBar*>();
+        QVERIFY(toolbar->isVisible());
+        QCOMPARE(toolbar->actions().size(), 9);
+        for (QAction* entry : toolbar->actions()) {
+            QWidget* button = toolbar->widgetForAction(entry);
+            QVERIFY(button != nullptr && button->isVisible());
+            QVERIFY(toolbar->rect().contains(button->geometry()));
+            QVERIFY(toolbar->rect().right() < window.VScrollBar().geometry().left() ||
+                    !window.VScrollBar().isVisible());
+        }
+        for (const char* overflow : {"qt_menubar_ext_button", "qt_toolbar_ext_button"}) {
+            auto* button = window.findChild<QWidget*>(overflow);
+            QVERIFY(button == nullptr || !button->isVisible());
+        }
+    }
+
+    // Each button shows its own image, sharp at scale 1 and 2, and no text.
+    void toolbarButtonsShowImagesAndToolTips() {
+        FixedLoader loader;
+        qt::MainWindow window(loader, "/opt/slicewright");
+        auto* toolbar = window.findChild<QToolBar*>();
+        QCOMPARE(toolbar->toolButtonStyle(), Qt::ToolButtonIconOnly);
+        QStringList tips;
+        QList<QImage> images;
+        for (QAction* entry : toolbar->actions()) {
+            if (entry->isSeparator()) {
+                continue;
+            }
+            tips << entry->toolTip();
+            const QList<QSize> sizes = entry->icon().availableSizes();
+            QVERIFY2(sizes.contains(QSize(16, 16)) && sizes.contains(QSize(32, 32)),
+                     qPrintable(entry->toolTip()));
+            const QImage image = entry->icon().pixmap(QSize(32, 32)).toImage();
+            QVERIFY2(!images.contains(image), qPrintable(entry->toolTip()));
+            images << image;
+        }
+        QCOMPARE(tips, QStringList({"Open File", "Create Sections", "Draw Horizontal Lines",
+                                    "Draw Vertical Lines", "Divide Horizontally Equal",
+                                    "Divide Vertically Equal", "Clear Lines", "Undo"}));
     }
 
 private:
     QTemporaryDir config_;
+    std::unique_ptr<QTemporaryDir> home_;
 };
 
 QTEST_MAIN(MainWindowTest)

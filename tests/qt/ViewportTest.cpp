@@ -137,6 +137,28 @@ private slots:
         QCOMPARE(canvas.Image().pixelColor(500, 103), QColor(0, 0, 0));
     }
 
+    // A picture wider than the screen gets a window no wider than the
+    // screen's work area, whole on the screen with both bars in reach.
+    void aPictureWiderThanTheScreenGetsAWindowOnTheScreen() {
+        SizedLoader loader(3000, 2000);
+        qt::MainWindow window(loader, "/opt/slicewright");
+        open(window);
+        QTest::qWait(200);
+        const QRect work = window.screen()->availableGeometry();
+        QVERIFY2(work.contains(window.frameGeometry()),
+                 qPrintable(QString("%1,%2 %3x%4")
+                                .arg(window.frameGeometry().x())
+                                .arg(window.frameGeometry().y())
+                                .arg(window.frameGeometry().width())
+                                .arg(window.frameGeometry().height())));
+        for (QScrollBar* bar : {&window.HScrollBar(), &window.VScrollBar()}) {
+            QVERIFY(bar->isVisible());
+            // A bar may reach one pixel under the frame, as in every window.
+            QVERIFY(window.ClientArea().rect().adjusted(0, 0, 1, 1).contains(bar->geometry()));
+            QVERIFY(bar->maximum() > 0);
+        }
+    }
+
     // The form's size goes out and comes back in twips, frame and menu bar
     // included, whatever the menu bar's real height.
     void theFormsSizeReadsBackAsWritten() {
@@ -145,7 +167,9 @@ private slots:
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         FormWindow& form = window.CurrentSession().ports.form;
-        QCOMPARE(form.Bounds().Width, 3525.0f);
+        // The stored layout's least width, or what the menu bar needs.
+        QCOMPARE(form.Bounds().Width,
+                 std::max(3525.0f, static_cast<float>(window.minimumWidth() * 15 + 120)));
         QCOMPARE(form.Bounds().Height, 6015.0f);
         form.SetWidth(7005);
         form.SetHeight(4560);

@@ -35,6 +35,30 @@ void makeFile(ScenarioRunner&, const ScenarioRunner::Words& w) {
     }
 }
 
+// Stands a copy of a file where the script wants it, for a picture the
+// script later removes or replaces while the program holds it open.
+void copyFile(ScenarioRunner&, const ScenarioRunner::Words& w) {
+    expectArguments(w, 2, "copy \"from\" \"to\"");
+    std::error_code error;
+    fs::copy_file(w[1], w[2], fs::copy_options::overwrite_existing, error);
+    if (error) {
+        throw ScriptError("cannot copy " + w[1] + " to " + w[2] + ": " + error.message());
+    }
+}
+
+void removeFile(ScenarioRunner&, const ScenarioRunner::Words& w) {
+    expectArguments(w, 1, "remove \"path\"");
+    std::error_code error;
+    if (!fs::remove(w[1], error)) {
+        throw ScriptError("cannot remove " + w[1]);
+    }
+}
+
+void vanishAfterTest(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
+    expectArguments(w, 1, "vanish \"path\"");
+    runner.Ports().files.VanishAfterTest(w[1]);
+}
+
 void showFile(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
     expectArguments(w, 1, "show \"path\"");
     std::string contents;
@@ -97,6 +121,9 @@ void progress(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
 void AddExportCommands(ScenarioRunner& runner) {
     runner.AddCommand("folder", makeFolder);
     runner.AddCommand("file", makeFile);
+    runner.AddCommand("copy", copyFile);
+    runner.AddCommand("remove", removeFile);
+    runner.AddCommand("vanish", vanishAfterTest);
     runner.AddCommand("show", showFile);
     runner.AddCommand("files", listFiles);
     runner.AddCommand("image", showImage);

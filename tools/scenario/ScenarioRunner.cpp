@@ -97,6 +97,15 @@ void ScenarioRunner::addBuiltInCommands() {
     AddCommand("apppath", [](ScenarioRunner& r, const Words& w) {
         expectWords(w, 2, "apppath \"folder\"");
         r.Ports().ports.app.Path = w[1];
+        r.Ports().userFolders.SetPictures(w[1], false);
+    });
+    AddCommand("pictures", [](ScenarioRunner& r, const Words& w) {
+        expectWords(w, 2, "pictures \"folder\"");
+        r.Ports().userFolders.SetPictures(w[1], true);
+    });
+    AddCommand("vanished", [](ScenarioRunner& r, const Words& w) {
+        expectWords(w, 2, "vanished \"folder\"");
+        r.Ports().userFolders.Vanish(w[1]);
     });
     AddCommand("start", [](ScenarioRunner& r, const Words& w) {
         expectWords(w, 1, "start");

@@ -14,18 +14,21 @@ ScriptedPorts::ScriptedPorts(std::ostream& out, PictureLoader* realLoader)
                                             files,
                                             exportDialogs,
                                             clipboard,
-                                            AppInfo{kScriptedAppPath, "Slicewright", "slicewright"},
+                                            AppInfo{kScriptedAppPath, "Slicewright", "slicewright",
+                                                    ""},
                                             jpgCompDialog,
                                             aboutWindow,
                                             shell,
                                             registry,
-                                            sysInfo} {}
+                                            sysInfo,
+                                            userFolders} {}
 
 Ports ScriptedPorts::WithForm(FormWindow& other) const {
     return Ports{ports.boxes,         ports.dlgPic,    ports.picActual, ports.loader,
                  ports.controls,      other,           ports.settings,  ports.files,
                  ports.exportDialogs, ports.clipboard, ports.app,       ports.jpgCompDialog,
-                 ports.aboutWindow,   ports.shell,     ports.registry,  ports.sysInfo};
+                 ports.aboutWindow,   ports.shell,     ports.registry,  ports.sysInfo,
+                 ports.userFolders};
 }
 
 } // namespace sw::scripted

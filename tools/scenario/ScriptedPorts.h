@@ -17,6 +17,7 @@
 #include "tools/scenario/ScriptedSettingsStore.h"
 #include "tools/scenario/ScriptedShell.h"
 #include "tools/scenario/ScriptedSystemInfoProgram.h"
+#include "tools/scenario/ScriptedUserFolders.h"
 
 namespace sw::scripted {
 
@@ -49,6 +50,7 @@ public:
     ScriptedSystemInfoProgram sysInfo{transcript};
     ScriptedExportDialogs exportDialogs{transcript, answers};
     ScriptedClipboard clipboard{transcript};
+    ScriptedUserFolders userFolders{kScriptedAppPath};
     Ports ports;
 };
 

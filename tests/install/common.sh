@@ -1,0 +1,62 @@
+# Helpers of the install tests: failing loudly, a DESTDIR install of the build,
+# and driving the installed window under X with xdotool.
+
+fail() {
+    echo "FAIL: $*" >&2
+    exit 1
+}
+
+need_tools() {
+    local tool
+    for tool in "$@"; do
+        command -v "$tool" >/dev/null 2>&1 || fail "$tool is not installed (scripts/install-deps installs it)"
+    done
+}
+
+# install_into BUILD_DIR DESTDIR: installs the build with the prefix /usr.
+install_into() {
+    DESTDIR="$2" cmake --install "$1" --prefix /usr >/dev/null || fail "cmake --install failed"
+}
+
+# A fresh home with its own settings, so that no test sees another's.
+fresh_home() {
+    export HOME="$1/home" XDG_CONFIG_HOME="$1/home/.config"
+    mkdir -p "$HOME/Pictures" "$XDG_CONFIG_HOME"
+}
+
+stored_setting() {
+    sed -n "s/^$1=//p" "$XDG_CONFIG_HOME/Corvane-Studio.ini"
+}
+
+# wait_window TITLE: the id of the visible window of exactly that title.
+wait_window() {
+    local id
+    id=$(timeout 20 xdotool search --sync --onlyvisible --name "^$1\$" 2>/dev/null | head -n 1)
+    [ -n "$id" ] || fail "no window titled \"$1\" appeared"
+    echo "$id"
+}
+
+# press WINDOW KEYS...: keys typed into that window, as a user would.
+press() {
+    local window=$1
+    shift
+    xdotool windowactivate --sync "$window" >/dev/null 2>&1 || fail "cannot activate window $window"
+    local key
+    for key in "$@"; do
+        xdotool key "$key"
+        sleep 0.3
+    done
+}
+
+# close_program WINDOW PID: closes the window by the window manager's close
+# key, so that the program ends as when the user closes it, and waits for it.
+close_program() {
+    press "$1" alt+F4
+    local tries=0
+    while kill -0 "$2" 2>/dev/null; do
+        tries=$((tries + 1))
+        [ "$tries" -le 100 ] || { kill "$2"; fail "the program did not end when its window was closed"; }
+        sleep 0.1
+    done
+    wait "$2" || fail "the program ended with status $?"
+}
