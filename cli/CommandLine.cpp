@@ -167,7 +167,8 @@ void checkPictureNames(const CutOptions& options) {
     }
 }
 
-void addOptions(CLI::App& app, CutOptions& options, RawOptions& raw) {
+// Where the lines come from; exactly one is given.
+void addLineOptions(CLI::App& app, CutOptions& options, RawOptions& raw) {
     app.add_option("PICTURE", options.pictures, "BMP, JPG or GIF pictures to cut")
         ->required()
         ->type_name("");
@@ -185,6 +186,10 @@ void addOptions(CLI::App& app, CutOptions& options, RawOptions& raw) {
         ->type_name("Y,Y,...");
     app.add_option("--v", raw.vLines, "vertical lines at these X positions (picture pixels)")
         ->type_name("X,X,...");
+}
+
+// What is written, where, and under which names.
+void addOutputOptions(CLI::App& app, CutOptions& options, RawOptions& raw) {
     app.add_option("-o,--out", options.outFolder,
                    "the folder for the sections, made if missing (default: the current folder)")
         ->type_name("DIR");
@@ -205,6 +210,10 @@ void addOptions(CLI::App& app, CutOptions& options, RawOptions& raw) {
     app.add_option("--manifest", options.manifestFile,
                    "write every section's file, row, column and rectangle as JSON")
         ->type_name("FILE.json");
+}
+
+// How the run goes and what it tells.
+void addRunOptions(CLI::App& app, CutOptions& options) {
     app.add_flag("--verify", options.verify,
                  "read the pieces back, rejoin them and compare with the picture: BMP and PNG "
                  "must be pixel-exact, every JPEG or WebP piece within 30 dB PSNR (20 dB at a "
@@ -244,7 +253,9 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
     CLI::App app(description(), kProgram);
     app.footer(footer());
     app.get_formatter()->column_width(34);
-    addOptions(app, options, raw);
+    addLineOptions(app, options, raw);
+    addOutputOptions(app, options, raw);
+    addRunOptions(app, options);
     try {
         app.parse(argc, argv);
         parseLineSource(raw, options, app);

@@ -10,7 +10,11 @@ namespace {
 std::string tracks(const std::vector<i32>& sizes) {
     std::string text;
     for (const i32 size : sizes) {
-        text += (text.empty() ? "" : " ") + std::to_string(size) + "px";
+        if (!text.empty()) {
+            text += ' ';
+        }
+        text += std::to_string(size);
+        text += "px";
     }
     return text;
 }

@@ -5,6 +5,8 @@
 #include "session/EqualDivision.h"
 #include "session/LineLimit.h"
 
+#include <unordered_set>
+
 namespace sw {
 namespace {
 
@@ -65,14 +67,21 @@ OneBasedArray<i16> lineArray(const std::vector<i16>& positions) {
     return array;
 }
 
-void applyPattern(CutPlan& plan, const NamePattern& pattern) {
+// Renames every section by the pattern; the name two sections would share,
+// if any ({row}{col} without a separator can make 1 and 11 into 111).
+std::optional<std::string> applyPattern(CutPlan& plan, const NamePattern& pattern) {
     const CutDestination& destination = plan.Destination;
+    std::unordered_set<std::string> names;
     for (SectionRect& section : plan.Sections) {
         section.CellName = pattern.Name(destination.BaseName, section.Number, RowOf(plan, section),
                                         ColumnOf(plan, section)) +
                            destination.Extension;
         section.FileName = destination.Folder + section.CellName;
+        if (!names.insert(section.CellName).second) {
+            return section.CellName;
+        }
     }
+    return std::nullopt;
 }
 
 } // namespace
@@ -112,7 +121,10 @@ std::variant<CutPlan, PlanRefusal> PlanPieces(const PlannedLines& lines, i32 wid
     CutPlan plan = BuildSectionGrid({horizontal, hCount}, {vertical, vCount}, twips(width),
                                     twips(height), destination);
     if (pattern) {
-        applyPattern(plan, *pattern);
+        if (const auto shared = applyPattern(plan, *pattern)) {
+            return PlanRefusal{"the name pattern gives two pieces the name " + *shared +
+                               "; put a separator between its fields"};
+        }
     }
     return plan;
 }

@@ -1,40 +1,27 @@
 #include "CutRun.h"
 
 #include "CommandLine.h"
-#include "CssPage.h"
 #include "JobPlanner.h"
-#include "Manifest.h"
 #include "PieceEncoder.h"
 #include "ProgressBar.h"
+#include "SideFiles.h"
 #include "Verification.h"
 #include "common/AtomicFile.h"
 #include "common/FileWriteError.h"
 #include "export/ClipContainer.h"
-#include "export/HtmlTable.h"
 #include "export/SectionArea.h"
 #include "export/SectionWriter.h"
 #include "qt/image/QtPictureLoader.h"
 
 #include <cmath>
 #include <filesystem>
+#include <future>
 #include <system_error>
 
 namespace sw {
 namespace {
 
 constexpr const char* kProgram = "slicewright-cut";
-
-// A page or manifest may go into a folder of its own, made like the pieces' one.
-void writeTextFile(const std::string& path, const std::string& text) {
-    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
-    std::error_code error;
-    if (!folder.empty()) {
-        std::filesystem::create_directories(folder, error);
-    }
-    AtomicFile file(path);
-    file.Write(text);
-    file.Commit();
-}
 
 std::string failureText(const SectionFailure& failure) {
     switch (failure.kind) {
@@ -164,49 +151,26 @@ bool CutRun::writePieces(const PictureJob& job, const Picture& picture, Progress
     const std::string saveFormat = encoder.SaveFormat();
     SectionOutput output{clip, saveFormat, options_.quality, encoder};
     output.threads = options_.jobs;
-    std::vector<std::string> written;
     output.afterSection = [&](const SectionRect& section, std::size_t) {
         if (HasArea(job.layout.pieces[static_cast<std::size_t>(section.Number - 1)])) {
-            written.push_back(section.FileName);
+            written_.push_back(section.FileName);
         }
         progress.Step(job.picture);
         return true;
     };
     const std::optional<SectionFailure> failure = WriteSections(output, job.plan, cells);
-    if (!failure) {
-        return true;
+    if (failure) {
+        progress.Clear();
+        fail(failure->path, failureText(*failure));
     }
-    progress.Clear();
-    fail(failure->path, failureText(*failure));
-    err_ << kProgram << ": " << job.picture << ": " << written.size()
-         << " piece(s) were written before it:\n";
-    for (const std::string& file : written) {
-        err_ << "  " << file << "\n";
-    }
-    return false;
+    return !failure;
 }
 
 bool CutRun::writeSideFiles(const PictureJob& job, const SectionCells& cells) {
     try {
-        if (!job.htmlFile.empty()) {
-            writeTextFile(job.htmlFile, TableText(BuildTableLines(cells, job.plan.Columns)));
-        }
-        if (!job.cssFile.empty()) {
-            writeTextFile(job.cssFile,
-                          CssPageText(job.layout, job.plan.Destination.BaseName, job.cssFile));
-        }
-        if (!job.manifestFile.empty()) {
-            const ManifestSource source{job.picture,
-                                        job.width,
-                                        job.height,
-                                        job.format,
-                                        static_cast<i32>(job.layout.rowHeights.size()),
-                                        job.plan.Columns};
-            writeTextFile(job.manifestFile, ManifestText(source, job.layout));
-        }
+        WriteSideFiles(job, cells, written_);
     } catch (const FileWriteError& error) {
-        fail(error.Path(), "cannot be written: " + error.Reason() + " (the pieces of " +
-                               job.picture + " are all written)");
+        fail(error.Path(), "cannot be written: " + error.Reason());
         return false;
     }
     return true;
@@ -231,9 +195,31 @@ bool CutRun::verify(const PictureJob& job, const Picture& picture) {
     return report.Passed();
 }
 
-void CutRun::cut(const PictureJob& job, ProgressBar& progress) {
-    QtPictureLoader loader;
-    const LoadedPicture loaded = loader.LoadPicture(job.picture);
+bool CutRun::putOnDisk(const PictureJob& job) {
+    try {
+        SyncFileSystem(job.plan.Destination.Folder);
+    } catch (const FileWriteError& error) {
+        fail(error.Path(), error.Reason());
+        return false;
+    }
+    return true;
+}
+
+void CutRun::printSummary(const PictureJob& job) {
+    const std::vector<i32> empty = SectionsWithoutArea(job.plan, job.width, job.height);
+    out_ << job.picture << ": " << job.plan.Sections.size() - empty.size()
+         << " piece(s) written to " << job.plan.Destination.Folder;
+    const char* separator = "; also ";
+    for (const std::string* side : {&job.htmlFile, &job.cssFile, &job.manifestFile}) {
+        if (!side->empty()) {
+            out_ << separator << *side;
+            separator = ", ";
+        }
+    }
+    out_ << "\n";
+}
+
+void CutRun::cut(const PictureJob& job, const LoadedPicture& loaded, ProgressBar& progress) {
     if (!loaded.ok()) {
         fail(job.picture, "cannot be read: " + loaded.error);
         return;
@@ -250,16 +236,37 @@ void CutRun::cut(const PictureJob& job, ProgressBar& progress) {
     }
     warnAboutEmptySections(job);
     SectionCells cells;
-    if (!writePieces(job, loaded.picture, progress, cells) || !writeSideFiles(job, cells)) {
+    const bool written =
+        writePieces(job, loaded.picture, progress, cells) && writeSideFiles(job, cells);
+    // One sync for all the files of the picture, written or not: what the run
+    // reports as written is on the disk.
+    if (!putOnDisk(job) || !written) {
         return;
     }
     if (!options_.quiet) {
         progress.Clear();
-        out_ << job.picture << ": " << FilesOf(job).size() << " file(s) written to "
-             << job.plan.Destination.Folder << "\n";
+        printSummary(job);
     }
     if (options_.verify) {
         verify(job, loaded.picture);
+    }
+}
+
+// With more than one thread the next picture is decoded while the current one
+// is cut: decoding is the one step of a picture that runs on a single core.
+void CutRun::cutAll(ProgressBar& progress) {
+    const auto policy = options_.jobs > 1 ? std::launch::async : std::launch::deferred;
+    const auto load = [](const std::string& path) { return QtPictureLoader().LoadPicture(path); };
+    std::future<LoadedPicture> next;
+    for (std::size_t i = 0; i < jobs_.size(); ++i) {
+        if (i == 0) {
+            next = std::async(policy, load, jobs_[0].picture);
+        }
+        const LoadedPicture loaded = next.get();
+        if (i + 1 < jobs_.size()) {
+            next = std::async(policy, load, jobs_[i + 1].picture);
+        }
+        cut(jobs_[i], loaded, progress);
     }
 }
 
@@ -280,10 +287,25 @@ int CutRun::Run() {
         return status_;
     }
     ProgressBar progress(err_, options_.progress && StandardErrorIsTerminal(), pieceCount(jobs_));
-    for (const PictureJob& job : jobs_) {
-        cut(job, progress);
+    cutAll(progress);
+    if (status_ != 0) {
+        progress.Clear();
+        listWritten();
     }
     return status_;
+}
+
+// After a failure the user learns what is on disk, so that nothing written
+// is lost track of.
+void CutRun::listWritten() {
+    if (written_.empty()) {
+        err_ << kProgram << ": no file was written\n";
+        return;
+    }
+    err_ << kProgram << ": " << written_.size() << " file(s) were written:\n";
+    for (const std::string& file : written_) {
+        err_ << "  " << file << "\n";
+    }
 }
 
 } // namespace sw

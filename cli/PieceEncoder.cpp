@@ -19,8 +19,10 @@ std::optional<EncodedFile> PieceEncoder::Encode(const Picture& clip, const std::
     return imaging_.Encode(clip, fileName, saveFormat, quality);
 }
 
+// Pieces reach the disk together once the picture is cut (see CutRun): a
+// sync for each of thousands of files would cost more than their encoding.
 void PieceEncoder::Write(const EncodedFile& file, const std::string& fileName) {
-    imaging_.Write(file, fileName);
+    WriteEncodedFile(file, fileName, SyncMode::Deferred);
 }
 
 Picture ReadPiece(const std::string& fileName, PieceFormat format) {

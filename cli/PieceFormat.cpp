@@ -50,7 +50,9 @@ std::string NameOf(PieceFormat format) {
 }
 
 std::string ExtensionOf(PieceFormat format) {
-    return "." + NameOf(format);
+    std::string extension = ".";
+    extension += NameOf(format);
+    return extension;
 }
 
 bool IsLossless(PieceFormat format) {

@@ -23,10 +23,12 @@ struct BufferDeleter {
     void operator()(void* buffer) const { std::free(buffer); }
 };
 
-// zlib's level 3 with the adaptive row filter: near the size of the default
-// level at a fraction of its time, which matters when a batch writes
-// thousands of pieces.
-constexpr int kCompressionLevel = 3;
+// The Paeth row filter with zlib's run-length strategy: on photographs as
+// small as the adaptive filters with zlib's default search (within a few per
+// cent) in a third of the time, which matters when a batch writes thousands
+// of pieces.
+constexpr int kRowFilter = SPNG_FILTER_CHOICE_PAETH;
+constexpr int kZlibRunLengthStrategy = 3; // Z_RLE
 
 void check(int status, const std::string& fileName) {
     if (status != 0 && status != SPNG_EOI) {
@@ -42,7 +44,8 @@ std::vector<std::uint8_t> encode(const Picture& picture, const std::string& file
     }
     spng_ctx* ctx = context.get();
     check(spng_set_option(ctx, SPNG_ENCODE_TO_BUFFER, 1), fileName);
-    check(spng_set_option(ctx, SPNG_IMG_COMPRESSION_LEVEL, kCompressionLevel), fileName);
+    check(spng_set_option(ctx, SPNG_FILTER_CHOICE, kRowFilter), fileName);
+    check(spng_set_option(ctx, SPNG_IMG_COMPRESSION_STRATEGY, kZlibRunLengthStrategy), fileName);
     spng_ihdr header{};
     header.width = static_cast<std::uint32_t>(picture.Width());
     header.height = static_cast<std::uint32_t>(picture.Height());

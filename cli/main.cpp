@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 #include "CutRun.h"
 
+#include <exception>
 #include <iostream>
 
 int main(int argc, char** argv) {
@@ -10,6 +11,12 @@ int main(int argc, char** argv) {
         std::cerr << commandLine.error;
         return commandLine.exitCode;
     }
-    sw::CutRun run(*commandLine.options, std::cout, std::cerr);
-    return run.Run();
+    try {
+        sw::CutRun run(*commandLine.options, std::cout, std::cerr);
+        return run.Run();
+    } catch (const std::exception& error) {
+        // Out of memory on a huge picture and the like: a message, never a crash.
+        std::cerr << "slicewright-cut: stopped: " << error.what() << "\n";
+        return 1;
+    }
 }

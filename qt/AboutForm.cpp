@@ -1,11 +1,13 @@
 #include "qt/AboutForm.h"
 
 #include "dialogs/frmAbout.h"
+#include "qt/ApplicationIcon.h"
 #include "qt/QtText.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace sw::qt {
@@ -24,19 +26,14 @@ QLabel* centred(const QString& text, QWidget* parent) {
 // after the main window has closed.
 AboutForm::AboutForm(const frmAbout& form, Raise raise) : raise_(std::move(raise)) {
     setWindowTitle(ToQ(form.Caption));
+    setWindowIcon(ApplicationIcon());
     new QVBoxLayout(this);
     setupTexts(form);
     setupButtons();
 }
 
 void AboutForm::setupTexts(const frmAbout& form) {
-    QLabel* logo = centred("<a href=\"logo\" style=\"text-decoration:none\">"
-                           "<b>Corvane-Studio</b></a>",
-                           this);
-    logo->setToolTip(frmAbout::kLogoToolTip);
-    logo->setCursor(Qt::PointingHandCursor);
-    connect(logo, &QLabel::linkActivated, this, [this] { raise_(&frmAbout::imgLogo_Click); });
-    layout()->addWidget(logo);
+    layout()->addWidget(makeLogo());
     QLabel* version = centred(ToQ(form.lblVersion), this);
     version->setStyleSheet("font-weight: bold");
     layout()->addWidget(version);
@@ -49,6 +46,28 @@ void AboutForm::setupTexts(const frmAbout& form) {
     auto* disclaimer = new QLabel(frmAbout::kDisclaimer, this);
     disclaimer->setWordWrap(true);
     layout()->addWidget(disclaimer);
+}
+
+// imgLogo: the project's logo, a flat button that leads to the maker's page.
+QWidget* AboutForm::makeLogo() {
+    auto* logo = new QToolButton(this);
+    QIcon image;
+    image.addFile(":/about/logo-96.png", QSize(96, 96));
+    image.addFile(":/about/logo-192.png", QSize(192, 192));
+    logo->setIcon(image);
+    logo->setIconSize(QSize(96, 96));
+    logo->setAutoRaise(true);
+    logo->setFocusPolicy(Qt::NoFocus);
+    logo->setToolTip(frmAbout::kLogoToolTip);
+    logo->setCursor(Qt::PointingHandCursor);
+    connect(logo, &QToolButton::clicked, this, [this] { raise_(&frmAbout::imgLogo_Click); });
+    auto* row = new QWidget(this);
+    auto* centre = new QHBoxLayout(row);
+    centre->setContentsMargins(0, 0, 0, 0);
+    centre->addStretch();
+    centre->addWidget(logo);
+    centre->addStretch();
+    return row;
 }
 
 void AboutForm::setupButtons() {

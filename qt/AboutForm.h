@@ -22,6 +22,7 @@ protected:
 private:
     void setupTexts(const frmAbout& form);
     void setupButtons();
+    QWidget* makeLogo();
     Raise raise_;
 };
 

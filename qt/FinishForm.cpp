@@ -6,8 +6,15 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace sw::qt {
+namespace {
+
+// The widest the status sentence stands on one line, in pixels.
+constexpr int kSentenceWidth = 420;
+
+} // namespace
 
 FinishForm::FinishForm(frmFinish& form, QWidget* owner) : QDialog(owner), form_(form) {
     // A small fixed tool window, with no minimise or maximise button and no task bar entry.
@@ -36,6 +43,9 @@ void FinishForm::setupControls() {
     auto* lblStatus = new QLabel(QString::fromStdString(form_.lblStatus), this);
     lblStatus->setAlignment(Qt::AlignCenter);
     lblStatus->setWordWrap(true);
+    // Wrapped at a sentence's width, not at the width of the widest option.
+    lblStatus->setMinimumWidth(
+        std::min(lblStatus->fontMetrics().horizontalAdvance(lblStatus->text()), kSentenceWidth));
     layout->addWidget(lblStatus);
     optScreen_ = addOption("Yes, in a screen", [this] { form_.optScreen_Click(); });
     optFile_ = addOption("Yes, to an HTML file", [this] { form_.optFile_Click(); });

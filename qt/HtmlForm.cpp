@@ -3,21 +3,44 @@
 #include "dialogs/frmHTML.h"
 
 #include <QFont>
+#include <QFontMetrics>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
+#include <QStyle>
+#include <algorithm>
 
 namespace sw::qt {
 
 HtmlForm::HtmlForm(frmHTML& form, QWidget* owner) : QDialog(owner), form_(form) {
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
-                   Qt::MSWindowsFixedSizeDialogHint);
+                   Qt::WindowMaximizeButtonHint);
     setWindowTitle(frmHTML::kTitle);
     form_.Form_Load();
     setupControls();
-    // 7830 x 4350 twips.
-    setFixedSize(522, 290);
+    fitToText();
+}
+
+// At least the stored 7830 x 4350 twips; larger where that shows a small
+// table whole, up to most of the screen. Lines never wrap: a longer one is
+// reached with the horizontal bar.
+void HtmlForm::fitToText() {
+    const QFontMetrics metrics(rtxtHTML_->font());
+    int widest = 0;
+    const QStringList lines = rtxtHTML_->toPlainText().split('\n');
+    for (const QString& line : lines) {
+        widest = std::max(widest, metrics.horizontalAdvance(line));
+    }
+    const QSize chrome = sizeHint() - rtxtHTML_->sizeHint();
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const QSize wanted(widest + chrome.width() + bar + 16,
+                       static_cast<int>(lines.size()) * metrics.lineSpacing() + chrome.height() +
+                           bar + 16);
+    const QSize most = screen()->availableGeometry().size() * 8 / 10;
+    resize(std::clamp(wanted.width(), 522, std::max(522, most.width())),
+           std::clamp(wanted.height(), 290, std::max(290, most.height())));
 }
 
 void HtmlForm::setupControls() {

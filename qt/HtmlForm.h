@@ -25,6 +25,7 @@ protected:
 
 private:
     void setupControls();
+    void fitToText();
     void pullText();
 
     frmHTML& form_;

@@ -1,6 +1,8 @@
 #include "qt/MainWindow.h"
 
 #include "dialogs/DialogCommands.h"
+#include "qt/ApplicationIcon.h"
+#include "qt/MenuKeys.h"
 #include "qt/OperationFailed.h"
 #include "qt/QtText.h"
 #include "qt/ToolbarImages.h"
@@ -10,25 +12,31 @@
 #include "window/MenuTree.h"
 #include "window/PictureOpening.h"
 #include "window/PointerFeedback.h"
+#include "window/StoredLayout.h"
 #include "window/Toolbar.h"
 #include "window/Viewport.h"
 
+#include <QActionGroup>
+#include <QApplication>
 #include <QCloseEvent>
+#include <QCursor>
 #include <QLabel>
 #include <QMenuBar>
 #include <QResizeEvent>
 #include <QScrollBar>
 #include <QStyle>
 #include <QToolBar>
+#include <QWheelEvent>
 #include <algorithm>
 
 namespace sw::qt {
 namespace {
 
-bool isCheckable(Item item) {
-    if (item == Item::mnuHorizontalLine || item == Item::mnuVerticalLine) {
-        return true;
-    }
+bool isDrawMode(Item item) {
+    return item == Item::mnuHorizontalLine || item == Item::mnuVerticalLine;
+}
+
+bool isLineColor(Item item) {
     return std::any_of(std::begin(kLineColors), std::end(kLineColors),
                        [item](const LineColorItem& entry) { return entry.item == item; });
 }
@@ -59,6 +67,7 @@ MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath,
         RunOperation("The about window", [this, event] { RaiseAboutEvent(session_, event); });
     };
     setWindowTitle("Slicewright");
+    setWindowIcon(ApplicationIcon());
     setupMenus();
     setupClientArea();
     connectPicture();
@@ -118,7 +127,8 @@ void MainWindow::setupScrollBars() {
     hscrollBar_ = new QScrollBar(Qt::Horizontal, area_);
     cornerWidget_ = new QWidget(area_);
     cornerWidget_->setAutoFillBackground(true);
-    cornerWidget_->resize(PixelsOf(255), PixelsOf(255));
+    cornerWidget_->resize(PixelsOf(StoredLayout::picResize.Width),
+                          PixelsOf(StoredLayout::picResize.Height));
     for (QWidget* widget :
          {static_cast<QWidget*>(vscrollBar_), static_cast<QWidget*>(hscrollBar_), cornerWidget_}) {
         widget->hide();
@@ -140,32 +150,36 @@ void MainWindow::connectBar(QScrollBar* bar, void (*change)(Session&), void (*sc
             [this, change] { run("Scrolling the picture", change); });
 }
 
-// The stored layout, in twips: a client area of 3405 x 5325 under the menu
-// bar, and the controls where they stand before the first picture.
+// The form and its controls where the stored layout puts them.
 void MainWindow::placeStoredLayout() {
-    form_.SetWidth(3525);
-    form_.SetHeight(6015);
-    const auto place = [](FormControl& control, float left, float top) {
-        control.SetLeft(left);
-        control.SetTop(top);
+    using L = StoredLayout;
+    form_.SetWidth(L::form.Width);
+    form_.SetHeight(L::form.Height);
+    const auto place = [](FormControl& control, const TwipRect& at) {
+        control.SetLeft(at.Left);
+        control.SetTop(at.Top);
     };
-    place(*picActual_, 120, 720);
-    place(*mousePos_, 120, 480);
-    place(*vscroll_, 3120, 480);
-    vscroll_->SetWidth(255);
-    vscroll_->SetHeight(975);
-    place(*hscroll_, 1920, 480);
-    hscroll_->SetWidth(1095);
-    hscroll_->SetHeight(255);
-    place(*picResize_, 2640, 840);
-    place(*toolbar_, 0, 0);
+    place(*picActual_, L::picActual);
+    place(*mousePos_, L::lblMousePos);
+    place(*vscroll_, L::vscroll);
+    vscroll_->SetWidth(L::vscroll.Width);
+    vscroll_->SetHeight(L::vscroll.Height);
+    place(*hscroll_, L::hscroll);
+    hscroll_->SetWidth(L::hscroll.Width);
+    hscroll_->SetHeight(L::hscroll.Height);
+    place(*picResize_, L::picResize);
+    place(*toolbar_, L::tlbrMain);
     stretchToolbar();
 }
 
 QAction* MainWindow::addMenuEntry(QMenu* menu, const MenuEntry& entry) {
     QAction* action = menu->addAction(ToQ(entry.caption));
     action->setEnabled(entry.enabled);
-    action->setCheckable(isCheckable(*entry.item));
+    action->setShortcut(ShortcutOf(*entry.item));
+    if (QActionGroup* group = choiceGroupOf(*entry.item)) {
+        action->setCheckable(true);
+        group->addAction(action);
+    }
     action->setChecked(entry.checked);
     const Command handler = entry.command;
     // The remembered picture's item has the picture's path for its caption.
@@ -177,7 +191,8 @@ QAction* MainWindow::addMenuEntry(QMenu* menu, const MenuEntry& entry) {
 }
 
 QAction* MainWindow::addMenuBarCommand(const MenuEntry& entry) {
-    QAction* action = menuBar()->addAction(ToQ(entry.caption));
+    QAction* action = menuBar()->addAction(WithAccessKey(ToQ(entry.caption), entry.depth));
+    action->setShortcut(ShortcutOf(*entry.item));
     const Command handler = entry.command;
     const std::string operation = entry.caption;
     connect(action, &QAction::triggered, this,
@@ -185,7 +200,18 @@ QAction* MainWindow::addMenuBarCommand(const MenuEntry& entry) {
     return action;
 }
 
+// The draw mode and the line colour are exclusive choices, shown with radio
+// marks; the logic still sets and reads every item's Checked.
+QActionGroup* MainWindow::choiceGroupOf(Item item) {
+    if (isDrawMode(item)) {
+        return drawModes_;
+    }
+    return isLineColor(item) ? lineColors_ : nullptr;
+}
+
 void MainWindow::setupMenus() {
+    drawModes_ = new QActionGroup(this);
+    lineColors_ = new QActionGroup(this);
     QMenu* top = nullptr;
     QMenu* sub = nullptr;
     for (const MenuEntry& entry : MenuTree()) {
@@ -193,7 +219,7 @@ void MainWindow::setupMenus() {
         if (!entry.item) {
             parent->addSeparator();
         } else if (entry.depth == 0 && entry.command == nullptr) {
-            top = menuBar()->addMenu(ToQ(entry.caption));
+            top = menuBar()->addMenu(WithAccessKey(ToQ(entry.caption), entry.depth));
             top->setSeparatorsCollapsible(false);
             top->menuAction()->setEnabled(entry.enabled);
             controls_.Register(*entry.item, top->menuAction());
@@ -249,11 +275,54 @@ void MainWindow::connectPicture() {
         RunOperation("Following the pointer", [&] { picActual_MouseMove(session_, x, y); });
     };
     picActual_->onClick = [this] { run("Drawing a line", picActual_Click); };
+    // Once the new picture is laid out, the title and label show where the
+    // pointer stands on it, or nothing: never a place on the last picture.
+    picActual_->onPictureShown = [this] {
+        QMetaObject::invokeMethod(
+            this, [this] { followPointer(); }, Qt::QueuedConnection);
+    };
+}
+
+void MainWindow::followPointer() {
+    const QPoint onArea = area_->mapFromGlobal(QCursor::pos());
+    const QPoint onPicture = picActual_->mapFromGlobal(QCursor::pos());
+    if (picActual_->isVisible() && area_->rect().contains(onArea) &&
+        picActual_->rect().contains(onPicture) && picActual_->onMouseMove) {
+        picActual_->onMouseMove(static_cast<float>(onPicture.x()),
+                                static_cast<float>(onPicture.y()));
+    } else {
+        run("Following the pointer", Form_MouseMove);
+    }
+}
+
+// The wheel moves the vertical bar, with Shift (or a sideways wheel) the
+// horizontal one, by setting its Value as a click on its arrows would, so
+// that its Change runs; a hidden bar does not move.
+void MainWindow::scrollByWheel(const QWheelEvent& event) {
+    const QPoint delta = event.angleDelta();
+    const bool across =
+        (event.modifiers() & Qt::ShiftModifier) || (delta.y() == 0 && delta.x() != 0);
+    QScrollBar* bar = across ? hscrollBar_ : vscrollBar_;
+    if (!bar->isVisible()) {
+        return;
+    }
+    // A notch is 120; touch pads send less at a time, which adds up.
+    wheelTurn_ += delta.y() != 0 ? delta.y() : delta.x();
+    const int notches = wheelTurn_ / 120;
+    wheelTurn_ -= notches * 120;
+    if (notches != 0) {
+        bar->setValue(bar->value() -
+                      notches * QApplication::wheelScrollLines() * bar->singleStep());
+    }
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == area_ && event->type() == QEvent::MouseMove) {
         run("Following the pointer", Form_MouseMove);
+    }
+    if (watched == area_ && event->type() == QEvent::Wheel) {
+        scrollByWheel(*static_cast<QWheelEvent*>(event));
+        return true;
     }
     return QMainWindow::eventFilter(watched, event);
 }

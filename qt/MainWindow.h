@@ -25,10 +25,12 @@
 #include <QMainWindow>
 #include <memory>
 
+class QActionGroup;
 class QLabel;
 class QMenu;
 class QScrollBar;
 class QToolBar;
+class QWheelEvent;
 
 namespace sw::qt {
 
@@ -62,10 +64,13 @@ private:
     void setupMenus();
     void setupToolbar();
     void connectPicture();
+    void followPointer();
+    void scrollByWheel(const QWheelEvent& event);
     void connectBar(QScrollBar* bar, void (*change)(Session&), void (*scroll)(Session&));
     void stretchToolbar();
     void keepMenuBarWhole();
     QAction* addMenuEntry(QMenu* menu, const MenuEntry& entry);
+    QActionGroup* choiceGroupOf(Item item);
     QAction* addMenuBarCommand(const MenuEntry& entry);
     void run(const std::string& operation, void (*handler)(Session&));
 
@@ -80,7 +85,7 @@ private:
     QtClipboard clipboard_;
     QtQualityDialog jpgCompDialog_{this};
     QtAboutWindow aboutWindow_{this};
-    QtShell shell_;
+    QtShell shell_{this};
     QtRegistry registry_;
     QtSystemInfoProgram sysInfo_;
     QtUserFolders userFolders_;
@@ -89,6 +94,9 @@ private:
     QWidget* area_ = nullptr;
     QLabel* lblMousePos_ = nullptr;
     QToolBar* tlbrMain_ = nullptr;
+    QActionGroup* drawModes_ = nullptr;
+    QActionGroup* lineColors_ = nullptr;
+    int wheelTurn_ = 0;
     QScrollBar* hscrollBar_ = nullptr;
     QScrollBar* vscrollBar_ = nullptr;
     QWidget* cornerWidget_ = nullptr;

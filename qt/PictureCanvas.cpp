@@ -28,6 +28,9 @@ void PictureCanvas::SetPicture(const Picture& picture) {
     strokes_ = QImage();
     resize(picture.Width(), picture.Height());
     update();
+    if (onPictureShown) {
+        onPictureShown();
+    }
 }
 
 QImage PictureCanvas::Image() const {

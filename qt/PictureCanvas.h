@@ -35,6 +35,8 @@ public:
 
     std::function<void(float x, float y)> onMouseMove;
     std::function<void()> onClick;
+    // A new picture is in the box.
+    std::function<void()> onPictureShown;
 
     // What the box shows, strokes included.
     QImage Image() const;

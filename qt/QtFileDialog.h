@@ -2,6 +2,10 @@
 
 #include "ports/FileDialog.h"
 
+#include <QString>
+#include <map>
+#include <string>
+
 class QWidget;
 
 namespace sw::qt {
@@ -17,6 +21,8 @@ public:
 private:
     void show(bool forOpening);
     QWidget* owner_;
+    // The type last chosen for each list of types.
+    std::map<std::string, QString> chosenTypes_;
 };
 
 } // namespace sw::qt

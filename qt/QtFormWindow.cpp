@@ -19,6 +19,8 @@ constexpr float kFrameHeight = 630 + 60;
 
 // How long a change of state may take the window manager.
 constexpr qint64 kStateChangeMillis = 1000;
+// How long a move may take the window manager.
+constexpr qint64 kMoveMillis = 500;
 
 float twips(int pixels) {
     return static_cast<float>(pixels) * kTwipsPerPixel;
@@ -56,6 +58,25 @@ void awaitResize(QWidget* window) {
     }
 }
 
+// A window manager places a window some time after the request, and until
+// then the frame reads its old place: a Top written right after a Left would
+// put the window back where it was. Waiting for the place (a little while at
+// most; a manager may also refuse it) keeps the writes in order.
+void moveFrameTo(QWidget* window, QPoint target) {
+    if (window->frameGeometry().topLeft() == target) {
+        return;
+    }
+    window->move(target);
+    if (!window->isVisible()) {
+        return;
+    }
+    QElapsedTimer timer;
+    timer.start();
+    while (window->frameGeometry().topLeft() != target && timer.elapsed() < kMoveMillis) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 20);
+    }
+}
+
 } // namespace
 
 void QtFormWindow::Attach(ScrollBar& hscroll, ScrollBar& vscroll, CornerPiece& picResize,
@@ -79,11 +100,11 @@ TwipRect QtFormWindow::Bounds() const {
 }
 
 void QtFormWindow::SetLeft(float left) {
-    form_->move(PixelsOf(left), form_->frameGeometry().y());
+    moveFrameTo(form_, QPoint(PixelsOf(left), form_->frameGeometry().y()));
 }
 
 void QtFormWindow::SetTop(float top) {
-    form_->move(form_->frameGeometry().x(), PixelsOf(top));
+    moveFrameTo(form_, QPoint(form_->frameGeometry().x(), PixelsOf(top)));
 }
 
 // Qt delivers the resize event of a visible window before resize() returns,

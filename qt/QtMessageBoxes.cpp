@@ -1,8 +1,12 @@
 #include "qt/QtMessageBoxes.h"
 
 #include "qt/QtText.h"
+#include "qt/TitleRoom.h"
 
+#include <QGridLayout>
 #include <QInputDialog>
+#include <QLayout>
+#include <QLineEdit>
 #include <QMessageBox>
 
 namespace sw::qt {
@@ -67,21 +71,53 @@ BoxResult resultOf(int button) {
     }
 }
 
+// The box's text without the line ends it may close with, which would show
+// as an empty last line.
+QString boxText(const std::string& text) {
+    QString shown = ToQ(text).replace("\r\n", "\n");
+    while (shown.endsWith('\n')) {
+        shown.chop(1);
+    }
+    return shown;
+}
+
+// A message box sizes itself to its text only; a row as wide as its title
+// keeps the title whole.
+void makeRoomForTitle(QMessageBox& box) {
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    if (grid == nullptr) {
+        return;
+    }
+    grid->addItem(new QSpacerItem(TitleRoom(box, box.windowTitle()), 0, QSizePolicy::Minimum,
+                                  QSizePolicy::Minimum),
+                  grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 } // namespace
 
 BoxResult QtMessageBoxes::Show(const BoxRequest& request) {
-    QMessageBox box(iconOf(request.icon), ToQ(request.title),
-                    ToQ(request.text).replace("\r\n", "\n"), buttonsOf(request.buttons), owner_);
+    QMessageBox box(iconOf(request.icon), ToQ(request.title), boxText(request.text),
+                    buttonsOf(request.buttons), owner_);
     box.setDefaultButton(buttonOf(request.defaultButton));
+    makeRoomForTitle(box);
     return resultOf(box.exec());
 }
 
 std::string QtMessageBoxes::InputBox(const std::string& prompt, const std::string& title,
                                      const std::string& defaultText) {
-    bool accepted = false;
-    const QString text = QInputDialog::getText(owner_, ToQ(title), ToQ(prompt), QLineEdit::Normal,
-                                               ToQ(defaultText), &accepted);
-    return accepted ? FromQ(text) : std::string();
+    QInputDialog input(owner_);
+    input.setWindowTitle(ToQ(title));
+    input.setLabelText(ToQ(prompt));
+    input.setTextValue(ToQ(defaultText));
+    // The dialog fixes its size to its contents, so the room goes to the
+    // field, less the dialog's margins.
+    if (auto* field = input.findChild<QLineEdit*>()) {
+        const QMargins margins =
+            input.layout() != nullptr ? input.layout()->contentsMargins() : QMargins();
+        field->setMinimumWidth(TitleRoom(input, input.windowTitle()) - margins.left() -
+                               margins.right());
+    }
+    return input.exec() == QDialog::Accepted ? FromQ(input.textValue()) : std::string();
 }
 
 } // namespace sw::qt

@@ -86,7 +86,7 @@ std::string SystemErrorText(int error) {
     }
 }
 
-AtomicFile::AtomicFile(std::string path) : path_(std::move(path)) {
+AtomicFile::AtomicFile(std::string path, SyncMode sync) : path_(std::move(path)), sync_(sync) {
     std::string pattern = folderOf(path_) + "/" + temporaryName(nameOf(path_));
     fd_ = ::mkostemp(pattern.data(), O_CLOEXEC);
     if (fd_ < 0) {
@@ -137,7 +137,7 @@ void AtomicFile::Write(const void* data, std::size_t size) {
 void AtomicFile::Commit() {
     // The data reaches the disk before the name points at it, so that a
     // power loss leaves the old file or the new one, never an empty one.
-    if (::fsync(fd_) != 0) {
+    if (sync_ == SyncMode::Immediate && ::fsync(fd_) != 0) {
         fail(SystemErrorText(errno));
     }
     const int closed = ::close(fd_);
@@ -149,7 +149,21 @@ void AtomicFile::Commit() {
         fail(SystemErrorText(errno));
     }
     committed_ = true;
-    syncFolder(folderOf(path_));
+    if (sync_ == SyncMode::Immediate) {
+        syncFolder(folderOf(path_));
+    }
+}
+
+void SyncFileSystem(const std::string& path) {
+    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    const int error = fd < 0 || ::syncfs(fd) != 0 ? errno : 0;
+    if (fd >= 0) {
+        ::close(fd);
+    }
+    if (error != 0) {
+        throw FileWriteError(path,
+                             "the files could not be put on the disk: " + SystemErrorText(error));
+    }
 }
 
 bool ReadWholeFile(const std::string& path, std::string& contents, std::string& reason) {

@@ -8,13 +8,21 @@
 
 namespace sw {
 
+// When a committed file reaches the disk. Immediate: before Commit returns
+// (the data before the rename, the folder after it). Deferred: whenever the
+// system writes it back, for a batch of many files that makes them durable
+// at once with SyncFileSystem, where a sync for each file would cost far
+// more than the writing; until then a power loss may leave a replaced file
+// empty.
+enum class SyncMode { Immediate, Deferred };
+
 // Writes a file through a temporary file in the same folder that is renamed
 // over the target only once everything is written and on the disk: a failed
 // write, or a power loss, leaves an existing file of that name as it was.
 // Failures throw FileWriteError.
 class AtomicFile {
 public:
-    explicit AtomicFile(std::string path);
+    explicit AtomicFile(std::string path, SyncMode sync = SyncMode::Immediate);
     ~AtomicFile();
     AtomicFile(const AtomicFile&) = delete;
     AtomicFile& operator=(const AtomicFile&) = delete;
@@ -36,9 +44,14 @@ private:
     void discard();
     std::string path_;
     std::string temporary_;
+    SyncMode sync_;
     int fd_ = -1;
     bool committed_ = false;
 };
+
+// Puts everything written on the file system that holds `path` (a file or
+// folder) on the disk; throws FileWriteError naming `path` when it cannot.
+void SyncFileSystem(const std::string& path);
 
 // Reads a whole file; nothing when it cannot be read, with the cause in `reason`.
 bool ReadWholeFile(const std::string& path, std::string& contents, std::string& reason);

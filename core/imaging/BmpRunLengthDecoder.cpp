@@ -3,6 +3,8 @@
 #include "imaging/BmpRowDecoder.h"
 #include "imaging/PictureProblems.h"
 
+#include <cstring>
+
 namespace sw {
 namespace {
 
@@ -15,15 +17,21 @@ BmpRunLengthDecoder::BmpRunLengthDecoder(const BmpHeader& header, std::uint8_t* 
     : header_(header), pixels_(pixels), stride_(stride), columns_(header.Columns()),
       rows_(header.Rows()) {}
 
-std::optional<std::string> BmpRunLengthDecoder::Decode(const std::vector<std::uint8_t>& data) {
+// One row of the first palette colour, copied to every row: a large picture
+// whose data ends at once costs one pass over its memory.
+void BmpRunLengthDecoder::fillWithBackground() {
     const std::uint32_t background = PaletteColor(header_, 0);
-    for (std::int64_t y = 0; y < rows_; ++y) {
-        for (std::int64_t x = 0; x < columns_; ++x) {
-            PutBgr(pixels_ + stride_ * static_cast<std::size_t>(y) +
-                       3 * static_cast<std::size_t>(x),
-                   background);
-        }
+    const auto rowBytes = 3 * static_cast<std::size_t>(columns_);
+    for (std::size_t x = 0; x < rowBytes; x += 3) {
+        PutBgr(pixels_ + x, background);
     }
+    for (std::int64_t y = 1; y < rows_; ++y) {
+        std::memcpy(pixels_ + stride_ * static_cast<std::size_t>(y), pixels_, rowBytes);
+    }
+}
+
+std::optional<std::string> BmpRunLengthDecoder::Decode(const std::vector<std::uint8_t>& data) {
+    fillWithBackground();
     while (!finished() && pos_ + 2 <= data.size()) {
         const std::uint8_t count = data[pos_];
         const std::uint8_t value = data[pos_ + 1];

@@ -21,6 +21,7 @@ public:
     std::optional<std::string> Decode(const std::vector<std::uint8_t>& data);
 
 private:
+    void fillWithBackground();
     bool escape(const std::vector<std::uint8_t>& data, std::uint8_t code);
     bool absolute(const std::vector<std::uint8_t>& data, int count);
     void run(int count, std::uint8_t value);

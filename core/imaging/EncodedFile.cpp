@@ -27,10 +27,10 @@ void keepTimes(const std::optional<struct stat>& old, const std::string& path) {
 
 } // namespace
 
-void WriteEncodedFile(const EncodedFile& file, const std::string& fileName) {
+void WriteEncodedFile(const EncodedFile& file, const std::string& fileName, SyncMode sync) {
     const std::optional<struct stat> old =
         file.keepsReplacedTimes ? existingFile(fileName) : std::nullopt;
-    AtomicFile target(fileName);
+    AtomicFile target(fileName, sync);
     target.Write(file.bytes.data(), file.bytes.size());
     keepTimes(old, target.TemporaryPath());
     target.Commit();

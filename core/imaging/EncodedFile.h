@@ -1,5 +1,7 @@
 #pragma once
 
+#include "common/AtomicFile.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -17,7 +19,8 @@ struct EncodedFile {
 
 // Puts the bytes in place under the name: an existing file is replaced only
 // once the new one is complete. Failures throw FileWriteError and leave an
-// earlier file at that path as it was.
-void WriteEncodedFile(const EncodedFile& file, const std::string& fileName);
+// earlier file at that path as it was. `sync` says when it reaches the disk.
+void WriteEncodedFile(const EncodedFile& file, const std::string& fileName,
+                      SyncMode sync = SyncMode::Immediate);
 
 } // namespace sw

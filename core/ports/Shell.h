@@ -5,7 +5,8 @@
 namespace sw {
 
 // The desktop's own way of opening a web address or a document with the
-// program it has for it. Failures are not reported: nothing happens.
+// program it has for it. The window layer tells the user when no program
+// could be started; the logic goes on either way.
 class Shell {
 public:
     virtual ~Shell() = default;

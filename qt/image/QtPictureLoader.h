@@ -7,13 +7,15 @@
 
 namespace sw {
 
-// Decodes BMP, JPG and GIF files (the first frame of an animation): plain
-// 24-bit BMP files and JPG files straight into the picture, the rest with
-// Qt's image readers. The size is read from the header first: a picture larger
+// Decodes BMP, JPG and GIF files (the first frame of an animation): every
+// BMP by the project's own reader and JPG files by TurboJPEG, straight into
+// the picture, the rest with Qt's image readers. A file goes by its contents,
+// whatever its name ends in. The size is read from the header first: a picture larger
 // than the program can handle is refused before any pixel memory is taken.
 // Works without a QGuiApplication.
 class QtPictureLoader : public PictureLoader {
 public:
+    // The limits of PictureLimits.h, under the names other code knows.
     static constexpr int kMaxSide = kMaxPictureSide;
     static constexpr std::int64_t kMaxPixels = kMaxPicturePixels;
 

@@ -82,6 +82,20 @@ TEST(CutPlanner, APatternRenamesEveryPiece) {
     EXPECT_EQ(p.Sections[5].CellName, "sky_2_03.jpg");
 }
 
+TEST(CutPlanner, RefusesAPatternThatGivesTwoPiecesOneName) {
+    std::string problem;
+    const auto pattern = NamePattern::Parse("{row}{col}", problem);
+    // Row 1, column 11 and row 11, column 1 are both "111".
+    PlannedLines lines;
+    for (i16 at = 1; at <= 10; ++at) {
+        lines.horizontal.push_back(at);
+        lines.vertical.push_back(at);
+    }
+    const auto plan = PlanPieces(lines, 20, 20, {"", "x", ".png"}, pattern);
+    ASSERT_TRUE(std::holds_alternative<PlanRefusal>(plan));
+    EXPECT_NE(std::get<PlanRefusal>(plan).why.find("111.png"), std::string::npos);
+}
+
 TEST(CutPlanner, RefusesMoreSectionsThanNumbersCanName) {
     PlannedLines lines;
     lines.horizontal.assign(4000, 1);

@@ -4,6 +4,7 @@
 #include "PngFile.h"
 #include "Verification.h"
 #include "WebpFile.h"
+#include "common/AtomicFile.h"
 #include "common/FileWriteError.h"
 #include "imaging/BmpWriter.h"
 #include "tests/imaging/ImageMagick.h"
@@ -67,6 +68,18 @@ TEST_F(PieceFiles, WriteFailuresNameTheFileAndKeepTheOldOne) {
     EXPECT_THROW(WriteWebpFile(Picture::Filled(16384, 1, 0), folder.Path("w.webp"), 90),
                  FileWriteError);
     EXPECT_THROW((void)ReadPngFile(folder.Path("none.png")), std::runtime_error);
+    EXPECT_THROW(SyncFileSystem(folder.Path("no folder")), FileWriteError);
+}
+
+TEST_F(PieceFiles, DeferredWritesReplaceWholeAndLeaveNoTemporaryFile) {
+    const std::string name = folder.Path("a.png");
+    WriteEncodedFile(EncodePng(picture, name), name, SyncMode::Deferred);
+    WriteEncodedFile(EncodePng(Picture::Filled(3, 2, 0x123456), name), name, SyncMode::Deferred);
+    SyncFileSystem(folder.Path());
+    EXPECT_EQ(ReadPngFile(name).PixelAt(2, 1), 0x123456u);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.Path()),
+                            std::filesystem::directory_iterator()),
+              1);
 }
 
 // Cuts the picture into 2 x 2 pieces of that format in the scratch folder.

@@ -163,6 +163,10 @@ group_options() {
     [[ ! -s out.txt && ! -s err.txt ]] || fail "--quiet printed: $(cat out.txt err.txt)"
     expect 0 "$cut" plasma.bmp --grid 2x2 -o progress --progress
     [[ ! -s err.txt ]] || fail "--progress drew into a pipe: $(cat err.txt)"
+    # On a terminal (script gives the program one) the bar is drawn and wiped.
+    script -qec "'$cut' plasma.bmp --grid 2x2 -o terminal --progress" /dev/null > terminal.txt ||
+        fail "--progress on a terminal: $(cat terminal.txt)"
+    grep -q '\[#*\] 4/4 plasma.bmp' terminal.txt || fail "no bar on a terminal: $(cat -v terminal.txt)"
     # Without --force an earlier run's files are listed and nothing is written.
     touch -d '2001-01-01' grid/plasma2.bmp
     expect 1 "$cut" plasma.bmp --grid 3x2 -o grid --html grid/t.html
@@ -213,6 +217,9 @@ group_batch() {
     expect 1 "$cut" plasma.bmp broken.jpg second.bmp --grid 2x2 -o batch -f png \
         --manifest m.json --css index.html --verify
     grep -q "broken.jpg: cannot be read" err.txt || fail "the broken picture is not named: $(cat err.txt)"
+    for file in batch/plasma/plasma4.png batch/plasma/index.html batch/second/m.json; do
+        grep -q "^  $file\$" err.txt || fail "$file is not listed as written: $(cat err.txt)"
+    done
     check_manifest batch/plasma/m.json plasma.bmp
     check_manifest batch/second/m.json second.bmp
     [[ -f batch/second/index.html && ! -e batch/broken ]] || fail "sub-folders: $(find batch)"
@@ -225,6 +232,7 @@ group_failures() {
     expect 1 "$cut" plasma.bmp --grid 2x301 -o refused
     grep -q "Number of Sections exceed the actual width of the picture!" err.txt ||
         fail "refusal: $(cat err.txt)"
+    grep -q "no file was written" err.txt || fail "refusal: $(cat err.txt)"
     [[ ! -e refused ]] || fail "a refused division wrote something"
     # A corrupt line file: the window's words.
     printf '"H5"\r\ngarbage\r\n' > bad.ple
@@ -241,7 +249,7 @@ group_failures() {
     echo old > stuck/plasma1.png
     expect 1 "$cut" plasma.bmp --grid 2x2 -o stuck -f png --force
     grep -q "stuck/plasma3.png: cannot be written" err.txt || fail "write failure: $(cat err.txt)"
-    grep -q "2 piece(s) were written before it" err.txt || fail "written list: $(cat err.txt)"
+    grep -q "2 file(s) were written:" err.txt || fail "written list: $(cat err.txt)"
     grep -q "^  stuck/plasma2.png" err.txt || fail "written list: $(cat err.txt)"
     [[ -d stuck/plasma3.png && ! -e stuck/plasma4.png ]] || fail "the run went on after the failure"
     ls stuck | grep -qv '^plasma[123].png$' && fail "a temporary file stayed: $(ls stuck)"

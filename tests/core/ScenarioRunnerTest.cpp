@@ -35,6 +35,9 @@ TEST(ScenarioRunner, RefusesUnknownCommandsEventsAndWrongArgumentCounts) {
     EXPECT_THROW(run("event mnuNothing_Click\n"), ScriptError);
     EXPECT_THROW(run("event picActual_MouseMove 1\n"), ScriptError);
     EXPECT_THROW(run("answer box \"Yes\n"), ScriptError);
+    // Found by fuzzing: an empty picture ended the runner as a failure of the logic.
+    EXPECT_THROW(run("picture \"p.bmp\" 0 100\n"), ScriptError);
+    EXPECT_THROW(run("picture \"p.bmp\" 100 -1\n"), ScriptError);
 }
 
 TEST(ScenarioRunner, RefusesAnAnswerTheBoxDoesNotOffer) {

@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
 # The Debian package, as CI (root on a fresh Debian 12) checks it: cpack builds
 # it with dependencies from the linked libraries, lintian finds no errors, dpkg
-# installs it, the installed program opens a picture from its command line
-# under Xvfb and opens the installed help page, and the package goes again.
+# installs it, the installed program, started through its desktop entry as a
+# file manager starts it, opens the picture handed to it under Xvfb and opens
+# the installed help page, and the package goes again.
 set -euo pipefail
 . "$(dirname "$0")/common.sh"
 build=$(cd "$1" && pwd)
 repository=$(cd "$(dirname "$0")/../.." && pwd)
-need_tools cpack lintian dpkg dpkg-shlibdeps xvfb-run
+need_tools cpack lintian dpkg dpkg-shlibdeps xvfb-run gio
 sudo_cmd=()
 [ "$(id -u)" -eq 0 ] || sudo_cmd=(sudo)
 dpkg-query -W -f='${Status}' slicewright 2>/dev/null | grep -q "install ok installed" &&
@@ -30,7 +31,8 @@ trap '"${sudo_cmd[@]}" dpkg -r slicewright >/dev/null 2>&1 || true' EXIT
 status=0
 QT_QPA_PLATFORM=xcb xvfb-run -a -s "-screen 0 1280x1024x24" \
     "$repository/tests/qt/with-window-manager.sh" \
-    "$repository/tests/install/installed-program.sh" / "$repository/tests/data" || status=$?
+    "$repository/tests/install/installed-program.sh" / "$repository/tests/data" \
+    "$(dpkg -L slicewright | grep '^/usr/share/applications/.*\.desktop$')" || status=$?
 "${sudo_cmd[@]}" dpkg -r slicewright >/dev/null || fail "dpkg -r failed"
 trap - EXIT
 [ "$status" -eq 0 ] || fail "the installed package's program failed its checks"

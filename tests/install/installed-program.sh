@@ -5,11 +5,13 @@
 # opened brings the opening's message while the program stays up with none.
 # Run it under xvfb-run and tests/qt/with-window-manager.sh, with a build
 # folder (installed here into a temporary DESTDIR) or "/" for the program that
-# the package installed.
+# the package installed. With a desktop entry as third argument, the picture
+# is handed over through that entry, as a file manager does (gio launch).
 set -euo pipefail
 . "$(dirname "$0")/common.sh"
 installation=$1
 data=$(cd "$2" && pwd)
+desktop_entry=${3:-}
 need_tools xdotool
 [ -n "${DISPLAY:-}" ] || fail "no X display: run this under xvfb-run"
 work=$(mktemp -d)
@@ -35,9 +37,18 @@ xdotool mousemove 0 0
 
 echo "== a picture on the command line, then Help"
 fresh_home "$work/good"
-(cd "$data" && exec "$program" small.bmp) &
-pid=$!
-window=$(wait_window Slicewright)
+if [ -n "$desktop_entry" ]; then
+    need_tools gio
+    (cd "$data" && gio launch "$desktop_entry" small.bmp) || fail "gio launch $desktop_entry failed"
+    window=$(wait_window Slicewright)
+    pid=$(xdotool getwindowpid "$window")
+    [ "$(readlink "/proc/$pid/exe")" = "$(readlink -f "$program")" ] ||
+        fail "the desktop entry started $(readlink "/proc/$pid/exe"), not $program"
+else
+    (cd "$data" && exec "$program" small.bmp) &
+    pid=$!
+    window=$(wait_window Slicewright)
+fi
 sleep 1
 # The last item of the menu bar is Help.
 press "$window" alt Left Return

@@ -16,10 +16,10 @@ inline QPushButton* FindButton(QWidget& form, const QString& caption) {
     return nullptr;
 }
 
-// The action of a window by its text, or nullptr.
+// The action of a window by its text (access key marks aside), or nullptr.
 inline QAction* FindAction(QWidget& window, const QString& text) {
     for (QAction* action : window.findChildren<QAction*>()) {
-        if (action->text() == text) {
+        if (QString(action->text()).remove('&') == text) {
             return action;
         }
     }

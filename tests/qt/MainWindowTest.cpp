@@ -95,6 +95,24 @@ private slots:
         QCOMPARE(QString::fromStdString(state.LastSaveDir), home_->path());
     }
 
+    // The desktop names the Pictures folder in its XDG user folders, in the
+    // user's language; that folder is the one a first run starts in.
+    void aFirstRunStartsInTheFolderTheDesktopNamesForPictures() {
+        QVERIFY(QDir(home_->path()).mkpath("Pictures"));
+        QVERIFY(QDir(home_->path()).mkpath("Bilder"));
+        QFile userFolders(config_.filePath("user-dirs.dirs"));
+        QVERIFY(userFolders.open(QIODevice::WriteOnly));
+        userFolders.write("XDG_PICTURES_DIR=\"$HOME/Bilder\"\n");
+        userFolders.close();
+        QFile::remove(config_.filePath("Corvane-Studio.ini"));
+        FixedLoader loader;
+        qt::MainWindow window(loader, "/opt/slicewright");
+        userFolders.remove();
+        const SessionState& state = window.CurrentSession().state;
+        QCOMPARE(QString::fromStdString(state.LastOpenDir), home_->filePath("Bilder"));
+        QCOMPARE(QString::fromStdString(state.LastSaveDir), home_->filePath("Bilder"));
+    }
+
     void aStoredLastPictureBecomesTheRememberedItem() {
         qt::QtSettingsStore().SaveSetting("Corvane-Studio", "Slicewright", "LastPicture",
                                           "/home/ann/gone.jpg");

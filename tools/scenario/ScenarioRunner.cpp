@@ -80,8 +80,12 @@ void ScenarioRunner::addBuiltInCommands() {
     });
     AddCommand("picture", [](ScenarioRunner& r, const Words& w) {
         expectWords(w, 4, "picture \"name\" WIDTH HEIGHT");
-        r.Ports().loader.Declare(w[1],
-                                 Picture::Filled(wholeNumber(w[2]), wholeNumber(w[3]), 0x00C0C0C0));
+        const int width = wholeNumber(w[2]);
+        const int height = wholeNumber(w[3]);
+        if (width < 1 || height < 1) {
+            throw ScriptError("a picture is at least 1 x 1 pixels, not " + w[2] + " x " + w[3]);
+        }
+        r.Ports().loader.Declare(w[1], Picture::Filled(width, height, 0x00C0C0C0));
     });
     AddCommand("forget", [](ScenarioRunner& r, const Words& w) {
         expectWords(w, 2, "forget \"name\"");

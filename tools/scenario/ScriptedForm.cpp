@@ -2,6 +2,7 @@
 
 #include "common/Numbers.h"
 #include "ports/Controls.h"
+#include "window/StoredLayout.h"
 
 namespace sw::scripted {
 namespace {
@@ -14,10 +15,12 @@ bool sameSize(const TwipRect& a, const TwipRect& b) {
 
 ScriptedForm::ScriptedForm(Transcript& transcript, ScriptedPictureBox& picActual)
     : transcript_(transcript), picActual_(picActual),
-      vscroll_(transcript, ControlKind::VScrollBar, "vscroll", {3120, 480, 255, 975}),
-      hscroll_(transcript, ControlKind::HScrollBar, "hscroll", {1920, 480, 1095, 255}),
-      picResize_(transcript, 2640, 840, 255),
-      lblMousePos_(transcript, ControlKind::Label, "lblMousePos", 120, 480) {
+      vscroll_(transcript, ControlKind::VScrollBar, "vscroll", StoredLayout::vscroll),
+      hscroll_(transcript, ControlKind::HScrollBar, "hscroll", StoredLayout::hscroll),
+      picResize_(transcript, StoredLayout::picResize.Left, StoredLayout::picResize.Top,
+                 StoredLayout::picResize.Width),
+      lblMousePos_(transcript, ControlKind::Label, "lblMousePos", StoredLayout::lblMousePos.Left,
+                   StoredLayout::lblMousePos.Top) {
     buildControlList();
 }
 

@@ -5,6 +5,7 @@
 #include "tools/scenario/ScriptedPictureBox.h"
 #include "tools/scenario/ScriptedScrollBar.h"
 #include "tools/scenario/Transcript.h"
+#include "window/StoredLayout.h"
 
 #include <functional>
 #include <memory>
@@ -63,7 +64,7 @@ private:
     void buildControlList();
     Transcript& transcript_;
     ScriptedPictureBox& picActual_;
-    TwipRect normal_{0, 0, 3525, 6015};
+    TwipRect normal_ = StoredLayout::form;
     int windowState_ = kWindowNormal;
     ScreenMetrics screen_{15360, 11520, 15};
     ScriptedScrollBar vscroll_;

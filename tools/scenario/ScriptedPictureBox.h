@@ -3,6 +3,7 @@
 #include "imaging/Picture.h"
 #include "ports/PictureBox.h"
 #include "tools/scenario/ScriptedPlace.h"
+#include "window/StoredLayout.h"
 
 namespace sw::scripted {
 
@@ -11,7 +12,8 @@ namespace sw::scripted {
 class ScriptedPictureBox : public PictureBox, public ScriptedControl {
 public:
     explicit ScriptedPictureBox(Transcript& transcript)
-        : ScriptedControl(transcript, ControlKind::PictureBox, "picActual", 120, 720) {}
+        : ScriptedControl(transcript, ControlKind::PictureBox, "picActual",
+                          StoredLayout::picActual.Left, StoredLayout::picActual.Top) {}
 
     void SetPicture(const Picture& picture) override;
     bool Line(int x1, int y1, int x2, int y2, Color color) override;

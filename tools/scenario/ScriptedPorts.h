@@ -50,7 +50,7 @@ public:
     ScriptedSystemInfoProgram sysInfo{transcript};
     ScriptedExportDialogs exportDialogs{transcript, answers};
     ScriptedClipboard clipboard{transcript};
-    ScriptedUserFolders userFolders{kScriptedAppPath};
+    ScriptedUserFolders userFolders{transcript, kScriptedAppPath};
     Ports ports;
 };
 

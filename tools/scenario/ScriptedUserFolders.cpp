@@ -2,7 +2,13 @@
 
 namespace sw::scripted {
 
+std::string ScriptedUserFolders::PicturesFolder() {
+    transcript_.Check("user pictures folder");
+    return pictures_;
+}
+
 bool ScriptedUserFolders::FolderExists(const std::string& path) {
+    transcript_.Check("user folder exists " + path);
     // A stored LastSaveDir keeps its closing separator.
     std::string folder = path;
     if (folder.size() > 1 && folder.back() == '/') {

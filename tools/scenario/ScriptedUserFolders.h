@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ports/UserFolders.h"
+#include "tools/scenario/Transcript.h"
 
 #include <set>
 #include <string>
@@ -13,14 +14,16 @@ namespace sw::scripted {
 // Queries only: nothing goes into the transcript.
 class ScriptedUserFolders : public UserFolders {
 public:
-    explicit ScriptedUserFolders(std::string pictures) : pictures_(std::move(pictures)) {}
-    std::string PicturesFolder() override { return pictures_; }
+    ScriptedUserFolders(Transcript& transcript, std::string pictures)
+        : transcript_(transcript), pictures_(std::move(pictures)) {}
+    std::string PicturesFolder() override;
     bool FolderExists(const std::string& path) override;
 
     void SetPictures(std::string folder, bool chosenByScript);
     void Vanish(const std::string& folder) { vanished_.insert(folder); }
 
 private:
+    Transcript& transcript_;
     std::string pictures_;
     bool chosenByScript_ = false;
     std::set<std::string> vanished_;

@@ -1,0 +1,54 @@
+#include "SideFiles.h"
+
+#include "CssPage.h"
+#include "Manifest.h"
+#include "common/AtomicFile.h"
+#include "export/HtmlTable.h"
+
+#include <filesystem>
+#include <system_error>
+
+namespace sw {
+namespace {
+
+// A page or manifest may go into a folder of its own, made like the pieces' one.
+void writeTextFile(const std::string& path, const std::string& text,
+                   std::vector<std::string>& written) {
+    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
+    std::error_code error;
+    if (!folder.empty()) {
+        std::filesystem::create_directories(folder, error);
+    }
+    AtomicFile file(path, SyncMode::Deferred);
+    file.Write(text);
+    file.Commit();
+    written.push_back(path);
+}
+
+std::string manifestOf(const PictureJob& job) {
+    const ManifestSource source{job.picture,
+                                job.width,
+                                job.height,
+                                job.format,
+                                static_cast<i32>(job.layout.rowHeights.size()),
+                                job.plan.Columns};
+    return ManifestText(source, job.layout);
+}
+
+} // namespace
+
+void WriteSideFiles(const PictureJob& job, const SectionCells& cells,
+                    std::vector<std::string>& written) {
+    if (!job.htmlFile.empty()) {
+        writeTextFile(job.htmlFile, TableText(BuildTableLines(cells, job.plan.Columns)), written);
+    }
+    if (!job.cssFile.empty()) {
+        writeTextFile(job.cssFile,
+                      CssPageText(job.layout, job.plan.Destination.BaseName, job.cssFile), written);
+    }
+    if (!job.manifestFile.empty()) {
+        writeTextFile(job.manifestFile, manifestOf(job), written);
+    }
+}
+
+} // namespace sw

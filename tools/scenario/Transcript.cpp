@@ -1,0 +1,19 @@
+#include "tools/scenario/Transcript.h"
+
+#include <stdexcept>
+
+namespace sw::scripted {
+
+void Transcript::Line(const std::string& text) {
+    Check(text);
+    out_ << text << '\n';
+}
+
+void Transcript::Check(const std::string& text) {
+    if (!failAt_.empty() && text.rfind(failAt_, 0) == 0) {
+        failAt_.clear();
+        throw std::runtime_error("the port failed at \"" + text + "\"");
+    }
+}
+
+} // namespace sw::scripted
