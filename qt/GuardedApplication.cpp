@@ -69,6 +69,14 @@ bool GuardedApplication::notify(QObject* receiver, QEvent* event) {
     return true;
 }
 
+void GuardedApplication::ReportCaught(const std::exception_ptr& failure) {
+    auto* guard = dynamic_cast<GuardedApplication*>(QCoreApplication::instance());
+    if (guard == nullptr) {
+        std::rethrow_exception(failure);
+    }
+    guard->reportFailure(failure);
+}
+
 void GuardedApplication::reportFailure(const std::exception_ptr& failure) {
     restorePointer();
     const QString text = DescribeFailure(failure);

@@ -27,6 +27,11 @@ public:
     // The user's text for an exception caught at the boundary.
     static QString DescribeFailure(const std::exception_ptr& failure);
 
+    // Tells the user of a failure caught in one of our own handlers, before
+    // it could unwind through Qt's event delivery (whose frames do not clean
+    // up behind an exception). Without a guarded application it rethrows.
+    static void ReportCaught(const std::exception_ptr& failure);
+
 private:
     void reportFailure(const std::exception_ptr& failure);
 

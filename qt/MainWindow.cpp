@@ -3,8 +3,8 @@
 #include "dialogs/DialogCommands.h"
 #include "qt/ApplicationIcon.h"
 #include "qt/MenuKeys.h"
-#include "qt/OperationFailed.h"
 #include "qt/QtText.h"
+#include "qt/RunGuarded.h"
 #include "qt/ToolbarImages.h"
 #include "window/DrawModeCommands.h"
 #include "window/EditCommands.h"
@@ -64,7 +64,7 @@ MainWindow::MainWindow(PictureLoader& loader, const std::string& appPath,
                                                      sysInfo_,
                                                      userFolders_} {
     aboutWindow_.raise = [this](void (frmAbout::*event)()) {
-        RunOperation("The about window", [this, event] { RaiseAboutEvent(session_, event); });
+        RunGuarded("The about window", [this, event] { RaiseAboutEvent(session_, event); });
     };
     setWindowTitle("Slicewright");
     setWindowIcon(ApplicationIcon());
@@ -86,14 +86,14 @@ void MainWindow::keepMenuBarWhole() {
 }
 
 void MainWindow::OpenPictureFile(const std::string& path) {
-    RunOperation("Open", [this, &path] { OpenChosenPicture(session_, path); });
+    RunGuarded("Open", [this, &path] { OpenChosenPicture(session_, path); });
 }
 
 // Every handler runs under the name the user knows it by, so that an
 // exception escaping it tells the user which operation broke off.
 void MainWindow::run(const std::string& operation, void (*handler)(Session&)) {
     if (handler != nullptr) {
-        RunOperation(operation, [this, handler] { handler(session_); });
+        RunGuarded(operation, [this, handler] { handler(session_); });
     }
 }
 
@@ -256,7 +256,7 @@ void MainWindow::setupToolbar() {
         const int index = entry.index;
         const std::string operation = entry.toolTip;
         connect(button, &QAction::triggered, this, [this, operation, index] {
-            RunOperation(operation, [this, index] { tlbrMain_ButtonClick(session_, index); });
+            RunGuarded(operation, [this, index] { tlbrMain_ButtonClick(session_, index); });
         });
         controls_.RegisterToolbarButton(index, button);
     }
@@ -272,7 +272,7 @@ void MainWindow::stretchToolbar() {
 
 void MainWindow::connectPicture() {
     picActual_->onMouseMove = [this](float x, float y) {
-        RunOperation("Following the pointer", [&] { picActual_MouseMove(session_, x, y); });
+        RunGuarded("Following the pointer", [&] { picActual_MouseMove(session_, x, y); });
     };
     picActual_->onClick = [this] { run("Drawing a line", picActual_Click); };
     // Once the new picture is laid out, the title and label show where the

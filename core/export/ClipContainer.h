@@ -15,9 +15,8 @@ public:
     i16 ClipWidth = 0;
     i16 ClipHeight = 0;
 
-    // Whether the clip rectangle has an area and lies inside the picture.
-    bool ClipInside() const;
-    // The clip rectangle as a new picture; ClipInside must hold.
+    // The clip rectangle as a new picture; one with no area or reaching outside
+    // the picture throws (see Picture::Clip).
     Picture Clip() const;
 };
 

@@ -33,7 +33,8 @@ public:
     // 0x00BBGGRR of one pixel, for tests.
     std::uint32_t PixelAt(int x, int y) const;
 
-    // The rectangle as a new picture; the caller makes sure it lies inside.
+    // The rectangle as a view on the same pixels; a rectangle with no area or
+    // reaching outside the picture throws std::out_of_range.
     Picture Clip(int x, int y, int width, int height) const;
 
 private:

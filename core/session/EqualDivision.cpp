@@ -100,9 +100,6 @@ SectionCount CountSections(std::string_view answer, Direction direction, float s
 std::vector<i16> EqualPositions(float sizeInTwips, i16 sections) {
     std::vector<i16> positions;
     const float size = sectionSize(sizeInTwips, sections);
-    if (size < 1.0f) {
-        return positions;
-    }
     float positionSum = 0.0f;
     for (int i = 1; i < sections; ++i) {
         positionSum += size;

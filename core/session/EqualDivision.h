@@ -25,9 +25,10 @@ SectionCount CountSections(std::string_view answer, Direction direction, float s
 // Places n - 1 lines that divide the picture into n equal sections.
 void DivideEqually(Session& session, Direction direction);
 
-// The positions of the lines for `sections` sections of `sizeInTwips`
-// (all single precision, from the running sum); empty when a section would
-// be smaller than one pixel.
+// The positions of the lines for `sections` sections of `sizeInTwips` (all
+// single precision, from the running sum). Give it only a count CountSections
+// accepted for the same size: the refusal of sections below one pixel is
+// there alone.
 std::vector<i16> EqualPositions(float sizeInTwips, i16 sections);
 
 } // namespace sw

@@ -90,8 +90,9 @@ TEST(WriteSections, StopsAtTheFirstFailureWhereverItStands) {
 
 TEST(WriteSections, SectionsWithoutAreaGetAnEmptyCellAndNoFile) {
     Writing w;
-    // Two lines at 50 and a column beyond the right edge: sections 2, 3, 4 and 6
-    // have nothing to cut; section 5 is cut to the picture's edge.
+    // Two lines at 50 and a column beyond the right edge of the 300 pixels:
+    // the middle row (4, 5, 6) and the right column (3, 9) have nothing to cut;
+    // sections 2 and 8 are cut to the picture's right edge.
     ASSERT_FALSE(w.write(planOf({50, 50}, {100, 400})));
     std::vector<std::string> written;
     for (const RecordingEncoder::Call& call : w.encoder.calls) {

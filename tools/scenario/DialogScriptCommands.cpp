@@ -2,8 +2,8 @@
 
 #include "common/AtomicFile.h"
 #include "common/QuotedText.h"
-#include "session/SessionStateDump.h"
 #include "tools/scenario/ScenarioRunner.h"
+#include "tools/scenario/SessionStateDump.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,11 +1,11 @@
 #include "tools/scenario/ScenarioRunner.h"
 
-#include "session/SessionStateDump.h"
 #include "tools/scenario/DialogScriptCommands.h"
+#include "tools/scenario/EventTable.h"
 #include "tools/scenario/ExportCommands.h"
 #include "tools/scenario/ScriptTokens.h"
+#include "tools/scenario/SessionStateDump.h"
 #include "tools/scenario/WindowScriptCommands.h"
-#include "window/EventTable.h"
 #include "window/FormLifecycle.h"
 
 #include <cstdlib>
@@ -18,15 +18,6 @@ void expectWords(const ScenarioRunner::Words& words, std::size_t count, const ch
     if (words.size() != count) {
         throw ScriptError(std::string("usage: ") + usage);
     }
-}
-
-int wholeNumber(const std::string& text) {
-    char* end = nullptr;
-    const long value = std::strtol(text.c_str(), &end, 10);
-    if (text.empty() || *end != '\0') {
-        throw ScriptError("not a whole number: \"" + text + "\"");
-    }
-    return static_cast<int>(value);
 }
 
 void raiseEvent(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
@@ -80,8 +71,8 @@ void ScenarioRunner::addBuiltInCommands() {
     });
     AddCommand("picture", [](ScenarioRunner& r, const Words& w) {
         expectWords(w, 4, "picture \"name\" WIDTH HEIGHT");
-        const int width = wholeNumber(w[2]);
-        const int height = wholeNumber(w[3]);
+        const int width = WholeNumber(w[2]);
+        const int height = WholeNumber(w[3]);
         if (width < 1 || height < 1) {
             throw ScriptError("a picture is at least 1 x 1 pixels, not " + w[2] + " x " + w[3]);
         }
@@ -96,7 +87,7 @@ void ScenarioRunner::addBuiltInCommands() {
         if (w[1] != "stroke") {
             throw ScriptError("only a stroke can be made to fail");
         }
-        r.Ports().picActual.FailStroke(wholeNumber(w[2]));
+        r.Ports().picActual.FailStroke(WholeNumber(w[2]));
     });
     AddCommand("apppath", [](ScenarioRunner& r, const Words& w) {
         expectWords(w, 2, "apppath \"folder\"");

@@ -2,6 +2,11 @@
 
 #include "tools/scenario/ScriptError.h"
 
+#include <cerrno>
+#include <climits>
+#include <cmath>
+#include <cstdlib>
+
 namespace sw::scripted {
 namespace {
 
@@ -59,6 +64,26 @@ std::vector<std::string> SplitScriptLine(const std::string& line) {
         }
     }
     return words;
+}
+
+int WholeNumber(const std::string& word) {
+    char* end = nullptr;
+    errno = 0;
+    const long value = std::strtol(word.c_str(), &end, 10);
+    if (word.empty() || *end != '\0' || errno == ERANGE || value < INT_MIN || value > INT_MAX) {
+        throw ScriptError("not a whole number: \"" + word + "\"");
+    }
+    return static_cast<int>(value);
+}
+
+float DecimalNumber(const std::string& word) {
+    char* end = nullptr;
+    errno = 0;
+    const float value = std::strtof(word.c_str(), &end);
+    if (word.empty() || *end != '\0' || errno == ERANGE || !std::isfinite(value)) {
+        throw ScriptError("not a number: \"" + word + "\"");
+    }
+    return value;
 }
 
 } // namespace sw::scripted

@@ -9,4 +9,9 @@ namespace sw::scripted {
 // word with blanks (escapes \" \\ \r \n \t), and # outside quotes starts a comment.
 std::vector<std::string> SplitScriptLine(const std::string& line);
 
+// A script's numbers: the whole word must be read, or the line is refused
+// (ScriptError), so that a mistyped number never runs as 0.
+int WholeNumber(const std::string& word);
+float DecimalNumber(const std::string& word);
+
 } // namespace sw::scripted

@@ -1,6 +1,7 @@
 #include "tools/scenario/WindowScriptCommands.h"
 
 #include "tools/scenario/ScenarioRunner.h"
+#include "tools/scenario/ScriptTokens.h"
 #include "window/Viewport.h"
 
 #include <cstdlib>
@@ -16,17 +17,8 @@ void expectCount(const Words& words, std::size_t count, const char* usage) {
     }
 }
 
-i32 number(const std::string& text) {
-    char* end = nullptr;
-    const long value = std::strtol(text.c_str(), &end, 10);
-    if (text.empty() || *end != '\0') {
-        throw ScriptError("not a whole number: \"" + text + "\"");
-    }
-    return static_cast<i32>(value);
-}
-
 float twips(const std::string& text) {
-    return static_cast<float>(number(text));
+    return static_cast<float>(WholeNumber(text));
 }
 
 ScriptedScrollBar& barNamed(ScenarioRunner& r, const std::string& name) {
@@ -101,11 +93,11 @@ void AddWindowCommands(ScenarioRunner& runner) {
     });
     runner.AddCommand("windowstate", [](ScenarioRunner& r, const Words& w) {
         expectCount(w, 2, "windowstate 0|1|2");
-        r.Ports().form.UserWindowState(number(w[1]));
+        r.Ports().form.UserWindowState(WholeNumber(w[1]));
     });
     runner.AddCommand("scroll", [](ScenarioRunner& r, const Words& w) {
         expectCount(w, 3, "scroll h|v VALUE");
-        barNamed(r, w[1]).UserScroll(number(w[2]));
+        barNamed(r, w[1]).UserScroll(WholeNumber(w[2]));
     });
     runner.AddCommand("drag", [](ScenarioRunner& r, const Words& w) {
         if (w.size() < 3) {
@@ -113,7 +105,7 @@ void AddWindowCommands(ScenarioRunner& runner) {
         }
         std::vector<i32> values;
         for (auto word = w.begin() + 2; word != w.end(); ++word) {
-            values.push_back(number(*word));
+            values.push_back(WholeNumber(*word));
         }
         barNamed(r, w[1]).UserDrag(values);
     });

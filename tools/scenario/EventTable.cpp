@@ -1,12 +1,12 @@
-#include "window/EventTable.h"
+#include "tools/scenario/EventTable.h"
 
 #include "dialogs/frmAbout.h"
+#include "session/Session.h"
+#include "tools/scenario/ScriptTokens.h"
 #include "window/CommandHandlers.h"
 #include "window/Toolbar.h"
 
-#include <cstdlib>
-
-namespace sw {
+namespace sw::scripted {
 namespace {
 
 EventEntry simple(std::string name, void (*handler)(Session&)) {
@@ -17,10 +17,6 @@ EventEntry simple(std::string name, void (*handler)(Session&)) {
 EventEntry aboutEvent(std::string name, void (frmAbout::*event)()) {
     return {"frmAbout." + name, 0,
             [event](Session& s, const EventArgs&) { RaiseAboutEvent(s, event); }};
-}
-
-float number(const std::string& text) {
-    return std::strtof(text.c_str(), nullptr);
 }
 
 std::vector<EventEntry> buildTable() {
@@ -64,10 +60,10 @@ std::vector<EventEntry> buildTable() {
         aboutEvent("lblForums_Click", &frmAbout::lblForums_Click),
     };
     table.push_back({"picActual_MouseMove", 2, [](Session& s, const EventArgs& a) {
-                         picActual_MouseMove(s, number(a[0]), number(a[1]));
+                         picActual_MouseMove(s, DecimalNumber(a[0]), DecimalNumber(a[1]));
                      }});
     table.push_back({"tlbrMain_ButtonClick", 1, [](Session& s, const EventArgs& a) {
-                         tlbrMain_ButtonClick(s, std::atoi(a[0].c_str()));
+                         tlbrMain_ButtonClick(s, WholeNumber(a[0]));
                      }});
     return table;
 }
@@ -88,4 +84,4 @@ const EventEntry* FindEvent(std::string_view name) {
     return nullptr;
 }
 
-} // namespace sw
+} // namespace sw::scripted

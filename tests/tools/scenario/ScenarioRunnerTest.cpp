@@ -42,6 +42,30 @@ TEST(ScenarioRunner, RefusesUnknownCommandsEventsAndWrongArgumentCounts) {
     EXPECT_THROW(run("files \"no such folder\"\n"), ScriptError);
 }
 
+std::string refusalOf(const std::string& script) {
+    try {
+        run(script);
+    } catch (const ScriptError& error) {
+        return error.what();
+    }
+    return "(no refusal)";
+}
+
+// A number the runner cannot read whole once became 0 or its leading digits
+// and ran; now the line is refused, named by its number in the script.
+TEST(ScenarioRunner, RefusesNumbersItCannotReadWholeNamingTheLine) {
+    const std::string opened = "picture \"/p.bmp\" 10 10\nstart\nanswer open \"/p.bmp\"\n"
+                               "event mnuOPen_Click\n";
+    EXPECT_EQ(refusalOf(opened + "event picActual_MouseMove x 3\n"), "line 5: not a number: \"x\"");
+    EXPECT_EQ(refusalOf(opened + "event picActual_MouseMove 3 4px\n"),
+              "line 5: not a number: \"4px\"");
+    EXPECT_EQ(refusalOf(opened + "event tlbrMain_ButtonClick 9b\n"),
+              "line 5: not a whole number: \"9b\"");
+    EXPECT_EQ(refusalOf(opened + "event tlbrMain_ButtonClick 99999999999\n"),
+              "line 5: not a whole number: \"99999999999\"");
+    EXPECT_EQ(refusalOf("start\nscroll h 1.5\n"), "line 2: not a whole number: \"1.5\"");
+}
+
 TEST(ScenarioRunner, RefusesAnAnswerTheBoxDoesNotOffer) {
     const std::string script = "picture \"/p.bmp\" 10 10\nstart\nanswer open \"/p.bmp\"\n"
                                "event mnuOPen_Click\nanswer box OK\nevent mnuClear_Click\n";

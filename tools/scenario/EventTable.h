@@ -6,13 +6,15 @@
 #include <vector>
 
 namespace sw {
-
 struct Session;
+}
+
+namespace sw::scripted {
 
 using EventArgs = std::vector<std::string>;
 
 // One event handler of the main form, raised by its name with its arguments
-// as text: how the scenario runner and the window layer's tests reach them.
+// as a script's words; an argument that is no number refuses the line.
 struct EventEntry {
     std::string name;
     std::size_t argCount;
@@ -22,4 +24,4 @@ struct EventEntry {
 const std::vector<EventEntry>& MainFormEvents();
 const EventEntry* FindEvent(std::string_view name);
 
-} // namespace sw
+} // namespace sw::scripted

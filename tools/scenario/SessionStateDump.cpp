@@ -1,11 +1,11 @@
-#include "session/SessionStateDump.h"
+#include "tools/scenario/SessionStateDump.h"
 
 #include "common/QuotedText.h"
 
 #include <cstdio>
 #include <sstream>
 
-namespace sw {
+namespace sw::scripted {
 namespace {
 
 const char* flag(bool value) {
@@ -60,4 +60,4 @@ std::string DumpSessionState(const SessionState& s) {
     return out.str();
 }
 
-} // namespace sw
+} // namespace sw::scripted
