@@ -13,6 +13,8 @@
 namespace sw::qt {
 namespace {
 
+constexpr int kReadableWidth = 380;
+
 QLabel* centred(const QString& text, QWidget* parent) {
     auto* label = new QLabel(text, parent);
     label->setAlignment(Qt::AlignCenter);
@@ -27,6 +29,8 @@ QLabel* centred(const QString& text, QWidget* parent) {
 AboutForm::AboutForm(const frmAbout& form, Raise raise) : raise_(std::move(raise)) {
     setWindowTitle(ToQ(form.Caption));
     setWindowIcon(ApplicationIcon());
+    // Wide enough that the description and disclaimer read as paragraphs.
+    setMinimumWidth(kReadableWidth);
     new QVBoxLayout(this);
     setupTexts(form);
     setupButtons();

@@ -46,7 +46,7 @@ shot() {
 # (A search may meet a window that goes meanwhile; it is asked again.)
 wait_window() {
     local found
-    for _ in $(seq 150); do
+    for _ in $(seq 600); do
         found=$(xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -1 || true)
         [[ -n $found ]] && { echo "$found"; return; }
         sleep 0.1
