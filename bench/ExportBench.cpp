@@ -1,8 +1,10 @@
-// export_bench PICTURE WORKDIR: times the export of a picture cut 10 x 10,
-// in-process (sort, plan, clip, write every section) as JPG at quality 90
-// and as BMP, against the bare lower bounds of BareWriters. Prints one
-// "name=milliseconds" line per measure, the best of several runs.
+// export_bench PICTURE WORKDIR [PARTS]: times the export of a picture cut
+// PARTS x PARTS (10 by default), in-process (sort, plan, clip, write every
+// section) as JPG at quality 90 and as BMP, on every core (a_) and on one
+// thread (a1_), against the bare single-thread lower bounds of BareWriters.
+// Prints one "name=milliseconds" line per measure, the best of several runs.
 #include "bench/BareWriters.h"
+#include "common/RunInOrder.h"
 #include "export/ClipContainer.h"
 #include "export/ImagingSectionEncoder.h"
 #include "export/SectionGrid.h"
@@ -20,15 +22,19 @@ namespace {
 
 using namespace sw;
 
-constexpr int kRuns = 15;
-constexpr int kParts = 10;
+int parts = 10;
 
-// Equal lines for kParts parts, in descending order so that the sort has work to do.
+// Rounds of every measure; a fine grid writes thousands of files a round.
+int rounds() {
+    return parts <= 10 ? 15 : 3;
+}
+
+// Equal lines for parts parts, in descending order so that the sort has work to do.
 OneBasedArray<i16> linesAcross(int length) {
     OneBasedArray<i16> lines;
-    lines.ReDimPreserve(kParts - 1);
-    for (int i = 1; i < kParts; ++i) {
-        lines(i) = static_cast<i16>(length * (kParts - i) / kParts);
+    lines.ReDimPreserve(parts - 1);
+    for (int i = 1; i < parts; ++i) {
+        lines(i) = static_cast<i16>(length * (parts - i) / parts);
     }
     return lines;
 }
@@ -36,19 +42,22 @@ OneBasedArray<i16> linesAcross(int length) {
 CutPlan planFor(const Picture& picture, const std::string& folder, const char* extension) {
     OneBasedArray<i16> h = linesAcross(picture.Height());
     OneBasedArray<i16> v = linesAcross(picture.Width());
-    SortLines(h, kParts - 1);
-    SortLines(v, kParts - 1);
+    const auto count = static_cast<i16>(parts - 1);
+    SortLines(h, count);
+    SortLines(v, count);
     return BuildSectionGrid(
-        {h, kParts - 1}, {v, kParts - 1}, static_cast<float>(picture.Width()) * kTwipsPerPixel,
+        {h, count}, {v, count}, static_cast<float>(picture.Width()) * kTwipsPerPixel,
         static_cast<float>(picture.Height()) * kTwipsPerPixel, {folder + "/", "Tile", extension});
 }
 
 // The whole export as the run does it, from the unsorted lines on.
-void exportInProcess(const Picture& picture, const std::string& folder, const std::string& format) {
+void exportInProcess(const Picture& picture, const std::string& folder, const std::string& format,
+                     int threads) {
     ClipContainer clip{picture};
     const CutPlan plan = planFor(picture, folder, format == "BMP" ? ".bmp" : ".jpg");
     ImagingSectionEncoder encoder;
     SectionOutput output{clip, format, 90, encoder};
+    output.threads = threads;
     SectionCells cells;
     if (WriteSections(output, plan, cells)) {
         throw std::runtime_error("a section could not be written");
@@ -81,7 +90,7 @@ void emptyFolder(const std::string& folder) {
 }
 
 void runRounds(std::vector<Measure>& measures) {
-    for (int round = 0; round < kRuns; ++round) {
+    for (int round = 0; round < rounds(); ++round) {
         for (Measure& measure : measures) {
             if (measure.fresh) {
                 emptyFolder(measure.folder);
@@ -104,7 +113,11 @@ using WorkIn = std::function<std::function<void()>(const std::string& folder)>;
 std::vector<Measure> measuresFor(const Picture& picture, const std::string& work) {
     const std::vector<std::pair<std::string, WorkIn>> kinds = {
         {"a_jpg",
-         [&](const std::string& f) { return [&, f] { exportInProcess(picture, f, "JPG"); }; }},
+         [&](const std::string& f) {
+             return [&, f] { exportInProcess(picture, f, "JPG", EveryCore()); };
+         }},
+        {"a1_jpg",
+         [&](const std::string& f) { return [&, f] { exportInProcess(picture, f, "JPG", 1); }; }},
         {"b_jpg",
          [&](const std::string& f) {
              return [&, plan = planFor(picture, f, ".jpg")] {
@@ -112,7 +125,9 @@ std::vector<Measure> measuresFor(const Picture& picture, const std::string& work
              };
          }},
         {"a_bmp",
-         [&](const std::string& f) { return [&, f] { exportInProcess(picture, f, "BMP"); }; }},
+         [&](const std::string& f) {
+             return [&, f] { exportInProcess(picture, f, "BMP", EveryCore()); };
+         }},
         {"b_bmp",
          [&](const std::string& f) {
              return [&, plan = planFor(picture, f, ".bmp")] { bench::BareBmp(picture, plan); };
@@ -132,9 +147,12 @@ std::vector<Measure> measuresFor(const Picture& picture, const std::string& work
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::cerr << "usage: export_bench PICTURE WORKDIR\n";
+    if (argc != 3 && argc != 4) {
+        std::cerr << "usage: export_bench PICTURE WORKDIR [PARTS]\n";
         return 2;
+    }
+    if (argc == 4) {
+        parts = std::stoi(argv[3]);
     }
     const LoadedPicture loaded = QtPictureLoader().LoadPicture(argv[1]);
     if (!loaded.ok()) {

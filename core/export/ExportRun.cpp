@@ -3,6 +3,7 @@
 #include "common/RunInOrder.h"
 #include "export/ChooseDestination.h"
 #include "export/HtmlOutput.h"
+#include "export/HtmlTable.h"
 #include "export/OverwritePreCheck.h"
 #include "export/SectionArea.h"
 #include "export/SectionGrid.h"
@@ -77,6 +78,62 @@ std::string failureText(const SectionFailure& failure) {
            ".\r\nFiles written before it stay; no further section is written.";
 }
 
+// Sections of fewer pixels than this are encoded faster than threads can
+// hand them over: a fine grid is written on one thread unless asked otherwise.
+constexpr std::int64_t kLeastPixelsForThreads = 16384;
+
+int threadsFor(const Session& session, const CutPlan& plan) {
+    if (session.exportThreads > 0) {
+        return session.exportThreads;
+    }
+    const Picture& picture = session.clipContainer.picture;
+    const std::int64_t pixels = std::int64_t{picture.Width()} * picture.Height();
+    const auto sections = static_cast<std::int64_t>(plan.Sections.size());
+    return pixels >= kLeastPixelsForThreads * sections ? EveryCore() : 1;
+}
+
+std::int32_t filesWritten(const SectionCells& cells) {
+    std::int32_t written = 0;
+    for (i32 i = 1; i <= cells.UBound(); ++i) {
+        written += cells(i) != EmptyCellText() ? 1 : 0;
+    }
+    return written;
+}
+
+// A run the user stopped: what was written stays, and they learn how much and where.
+void tellCancelled(Session& session, const CutPlan& plan, const SectionCells& cells) {
+    const std::string& folder = plan.Destination.Folder;
+    session.ports.boxes.Show(
+        {"Sections Cancelled",
+         "Cancelled: " + std::to_string(filesWritten(cells)) + " section file(s) of " +
+             std::to_string(plan.Sections.size()) + " sections were written to " +
+             (folder.empty() ? std::string("the current folder") : folder) +
+             " and stay there.\r\nNo HTML is offered, and the lines stay on the picture.",
+         BoxIcon::Information, BoxButtons::OK, BoxResult::OK});
+}
+
+std::optional<SectionFailure> writeWithProgress(Session& session, SectionEncoder& encoder,
+                                                const CutPlan& plan, SectionCells& cells) {
+    SessionState& s = session.state;
+    ExportDialogs& dialogs = session.ports.exportDialogs;
+    const auto total = static_cast<int>(plan.Sections.size());
+    SectionOutput output{session.clipContainer, s.SaveFormat, s.JPGComp, encoder};
+    output.threads = threadsFor(session, plan);
+    output.afterSection = [&](const SectionRect& section, std::size_t done) {
+        return dialogs.AdvanceProgress(static_cast<int>(done), total, section.FileName);
+    };
+    dialogs.BeginProgress(total);
+    std::optional<SectionFailure> failure;
+    try {
+        failure = WriteSections(output, plan, cells);
+    } catch (...) {
+        dialogs.EndProgress();
+        throw;
+    }
+    dialogs.EndProgress();
+    return failure;
+}
+
 // Writes every section, once the user has accepted those that cannot be
 // cut; false when the run ends early (the user has been told why).
 bool cutSections(Session& session, SectionEncoder& encoder, const CutPlan& plan,
@@ -84,11 +141,10 @@ bool cutSections(Session& session, SectionEncoder& encoder, const CutPlan& plan,
     if (!acceptSectionsWithoutArea(session, plan)) {
         return false;
     }
-    SessionState& s = session.state;
-    SectionOutput output{session.clipContainer, s.SaveFormat, s.JPGComp, encoder};
-    output.threads = session.exportThreads > 0 ? session.exportThreads : EveryCore();
-    const std::optional<SectionFailure> failure = WriteSections(output, plan, cells);
-    if (failure) {
+    const std::optional<SectionFailure> failure = writeWithProgress(session, encoder, plan, cells);
+    if (failure && failure->kind == SectionFailure::Kind::Cancelled) {
+        tellCancelled(session, plan, cells);
+    } else if (failure) {
         session.ports.boxes.Show(
             {"Error!", failureText(*failure), BoxIcon::Critical, BoxButtons::OK, BoxResult::OK});
     }

@@ -53,6 +53,8 @@ public:
     fs::path folder = fs::temp_directory_path() / ("slicewright-par-" + std::to_string(::getpid()));
     RefusingEncoder encoder;
     std::function<void()> prepare = [] {};
+    // Cancel is pressed once this many sections are through; 0 for never.
+    int cancelAt = 0;
 
     Outcome Run(const std::string& format, int threads) {
         fs::remove_all(folder);
@@ -63,6 +65,8 @@ public:
         Session session{ports.ports};
         setUp(session, ports, format);
         session.exportThreads = threads;
+        ports.exportDialogs.showProgress = true;
+        ports.exportDialogs.cancelAt = cancelAt;
         ports.answers.Add("save", {(folder / ("Tile." + format)).string()});
         ports.answers.Add("finish", {"keep"});
         ports.answers.Add("box", {"No"});
@@ -146,6 +150,25 @@ TEST(ParallelExport, AFailureAtAnySectionLeavesWhatOneThreadLeaves) {
                 expectSameOutcome(single, run->Run("jpg", threads),
                                   name + " on " + std::to_string(threads) + " threads");
             }
+        }
+    }
+}
+
+// Cancel after the first, a middle and the last but one section: the
+// sections through stay, whole, and nothing after them is written.
+TEST(ParallelExport, ACancelLeavesWhatOneThreadLeaves) {
+    for (const int cancelAt : {1, 9, 19}) {
+        ExportOnThreads run;
+        run.cancelAt = cancelAt;
+        const Outcome single = run.Run("jpg", 1);
+        EXPECT_EQ(single.files.size(), static_cast<std::size_t>(cancelAt));
+        EXPECT_NE(single.transcript.find("box title=\"Sections Cancelled\""), std::string::npos);
+        EXPECT_EQ(single.transcript.find("finish show"), std::string::npos);
+        EXPECT_TRUE(single.linesDrawn);
+        for (const int threads : {2, 4}) {
+            expectSameOutcome(single, run.Run("jpg", threads),
+                              "cancel at " + std::to_string(cancelAt) + " on " +
+                                  std::to_string(threads) + " threads");
         }
     }
 }

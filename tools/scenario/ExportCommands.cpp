@@ -108,6 +108,23 @@ void showImage(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
     }
 }
 
+// "progress show" prints a line for each section of every later export;
+// "progress cancel N" presses Cancel in the next export once N sections are through.
+void progress(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
+    ScriptedExportDialogs& dialogs = runner.Ports().exportDialogs;
+    if (w.size() == 2 && w[1] == "show") {
+        dialogs.showProgress = true;
+        return;
+    }
+    const bool count = w.size() == 3 && !w[2].empty() && w[2].size() < 9 &&
+                       w[2].find_first_not_of("0123456789") == std::string::npos;
+    if (count && w[1] == "cancel" && std::stoi(w[2]) > 0) {
+        dialogs.cancelAt = std::stoi(w[2]);
+        return;
+    }
+    throw ScriptError("usage: progress show | progress cancel N");
+}
+
 } // namespace
 
 void AddExportCommands(ScenarioRunner& runner) {
@@ -119,6 +136,7 @@ void AddExportCommands(ScenarioRunner& runner) {
     runner.AddCommand("show", showFile);
     runner.AddCommand("files", listFiles);
     runner.AddCommand("image", showImage);
+    runner.AddCommand("progress", progress);
 }
 
 } // namespace sw::scripted

@@ -72,4 +72,19 @@ void ScriptedExportDialogs::ShowHtml(frmHTML& form) {
     }
 }
 
+void ScriptedExportDialogs::BeginProgress(int) {}
+
+bool ScriptedExportDialogs::AdvanceProgress(int done, int total, const std::string& fileName) {
+    const bool cancel = done == cancelAt;
+    if (showProgress || cancel) {
+        transcript_.Line("progress " + std::to_string(done) + "/" + std::to_string(total) + " " +
+                         QuoteText(fileName) + (cancel ? " -> Cancel" : ""));
+    }
+    return !cancel;
+}
+
+void ScriptedExportDialogs::EndProgress() {
+    cancelAt = 0;
+}
+
 } // namespace sw::scripted
