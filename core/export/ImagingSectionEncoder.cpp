@@ -1,5 +1,6 @@
 #include "export/ImagingSectionEncoder.h"
 
+#include "common/AtomicFile.h"
 #include "imaging/BmpWriter.h"
 #include "imaging/JpegWriteError.h"
 #include "imaging/JpegWriter.h"
@@ -32,8 +33,14 @@ std::optional<EncodedFile> ImagingSectionEncoder::Encode(const Picture& clip,
     return encodeJpg(clip, quality);
 }
 
+// Each file still goes in place whole through a rename; the one sync at the
+// end of the run makes them all durable.
 void ImagingSectionEncoder::Write(const EncodedFile& file, const std::string& fileName) {
-    WriteEncodedFile(file, fileName);
+    WriteEncodedFile(file, fileName, SyncMode::Deferred);
+}
+
+void ImagingSectionEncoder::FinishRun(const std::string& folder) {
+    SyncFileSystem(folder);
 }
 
 } // namespace sw

@@ -11,6 +11,7 @@ public:
     std::optional<EncodedFile> Encode(const Picture& clip, const std::string& fileName,
                                       const std::string& saveFormat, i32 quality) override;
     void Write(const EncodedFile& file, const std::string& fileName) override;
+    void FinishRun(const std::string& folder) override;
 };
 
 } // namespace sw

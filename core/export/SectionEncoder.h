@@ -26,6 +26,10 @@ public:
     // Puts the bytes in place under the name; called on the run's thread in
     // section order. A file that cannot be written throws FileWriteError.
     virtual void Write(const EncodedFile& file, const std::string& fileName) = 0;
+    // Puts every file written in `folder` by this run on the disk at once,
+    // after the run's last file, so that a run of many sections does not pay
+    // a sync for each. Throws FileWriteError when the disk refuses.
+    virtual void FinishRun(const std::string& folder) { (void)folder; }
 };
 
 } // namespace sw

@@ -111,6 +111,15 @@ std::optional<SectionFailure> WriteSections(SectionOutput& output, const CutPlan
         return !failure;
     };
     RunInOrder(plan.Sections.size(), output.threads, encode, finish);
+    // The files already written are put on the disk even when the run
+    // stopped early; a refusal then only tells when nothing else went wrong.
+    try {
+        output.encoder.FinishRun(plan.Destination.Folder);
+    } catch (const FileWriteError& error) {
+        if (!failure) {
+            failure = SectionFailure{SectionFailure::Kind::File, error.Path(), error.Reason()};
+        }
+    }
     return failure;
 }
 

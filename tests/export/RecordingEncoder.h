@@ -5,6 +5,7 @@
 #include "imaging/Picture.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace sw {
@@ -24,6 +25,10 @@ public:
     };
     std::vector<Call> calls;
     std::string failOn;
+    // The folders put on the disk at the end of a run, with the number of
+    // files written before each; `refuseSync` makes the disk refuse.
+    std::vector<std::pair<std::string, std::size_t>> finishedRuns;
+    bool refuseSync = false;
 
     std::optional<EncodedFile> Encode(const Picture& clip, const std::string& fileName,
                                       const std::string& saveFormat, i32 quality) override {
@@ -49,6 +54,13 @@ public:
         }
         calls.push_back({fields[0], fileName, std::stoi(fields[1]), std::stoi(fields[2]),
                          static_cast<std::uint32_t>(std::stoul(fields[3]))});
+    }
+
+    void FinishRun(const std::string& folder) override {
+        finishedRuns.emplace_back(folder, calls.size());
+        if (refuseSync) {
+            throw FileWriteError(folder, "an input/output error");
+        }
     }
 };
 

@@ -88,6 +88,33 @@ TEST(WriteSections, StopsAtTheFirstFailureWhereverItStands) {
     }
 }
 
+// Files are synced once, after the last one is written, also when the run
+// stopped early: what was written must survive a power loss either way.
+TEST(WriteSections, PutsTheRunsFilesOnTheDiskOnceAtTheEnd) {
+    for (const int threads : {1, 4}) {
+        Writing whole;
+        whole.threads = threads;
+        ASSERT_FALSE(whole.write(planOf({50, 120}, {100})));
+        EXPECT_EQ(whole.encoder.finishedRuns,
+                  (std::vector<std::pair<std::string, std::size_t>>{{"out/", 6}}));
+
+        Writing stopped;
+        stopped.threads = threads;
+        stopped.encoder.failOn = "out/Tile3.jpg";
+        ASSERT_TRUE(stopped.write(planOf({50, 120}, {100})));
+        EXPECT_EQ(stopped.encoder.finishedRuns,
+                  (std::vector<std::pair<std::string, std::size_t>>{{"out/", 2}}));
+    }
+    // A disk that refuses the sync fails a run that had gone well, naming the folder.
+    Writing refused;
+    refused.encoder.refuseSync = true;
+    const std::optional<SectionFailure> failure = refused.write(planOf({50}, {}));
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->kind, SectionFailure::Kind::File);
+    EXPECT_EQ(failure->path, "out/");
+    EXPECT_EQ(refused.encoder.calls.size(), 2u);
+}
+
 TEST(WriteSections, SectionsWithoutAreaGetAnEmptyCellAndNoFile) {
     Writing w;
     // Two lines at 50 and a column beyond the right edge of the 300 pixels:

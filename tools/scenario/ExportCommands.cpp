@@ -23,7 +23,11 @@ void expectArguments(const ScenarioRunner::Words& words, std::size_t count, cons
 
 void makeFolder(ScenarioRunner&, const ScenarioRunner::Words& w) {
     expectArguments(w, 1, "folder \"path\"");
-    fs::create_directories(w[1]);
+    std::error_code error;
+    fs::create_directories(w[1], error);
+    if (error) {
+        throw ScriptError("cannot make the folder " + w[1] + ": " + error.message());
+    }
 }
 
 void makeFile(ScenarioRunner&, const ScenarioRunner::Words& w) {
@@ -72,8 +76,13 @@ void showFile(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
 
 void listFiles(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
     expectArguments(w, 1, "files \"folder\"");
+    std::error_code error;
+    fs::directory_iterator folder(w[1], error);
+    if (error) {
+        throw ScriptError("cannot list the folder " + w[1] + ": " + error.message());
+    }
     std::vector<std::string> names;
-    for (const fs::directory_entry& entry : fs::directory_iterator(w[1])) {
+    for (const fs::directory_entry& entry : folder) {
         if (entry.is_regular_file()) {
             names.push_back(entry.path().filename().string());
         }

@@ -38,6 +38,8 @@ TEST(ScenarioRunner, RefusesUnknownCommandsEventsAndWrongArgumentCounts) {
     // Found by fuzzing: an empty picture ended the runner as a failure of the logic.
     EXPECT_THROW(run("picture \"p.bmp\" 0 100\n"), ScriptError);
     EXPECT_THROW(run("picture \"p.bmp\" 100 -1\n"), ScriptError);
+    // Found by fuzzing too: a folder that is not there ended it the same way.
+    EXPECT_THROW(run("files \"no such folder\"\n"), ScriptError);
 }
 
 std::string refusalOf(const std::string& script) {
