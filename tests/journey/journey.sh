@@ -183,7 +183,7 @@ read -r after_x after_y < <(position_at "$((wx + 150))" "$((wy + 150))")
 shot scrolled-with-the-wheel
 
 # File, Create Sections with its key: JPG sections named cut.
-xdotool key --window "$main" ctrl+e
+press_in "Slicewright( - .*)?" ctrl+e
 wait_window "Choose folder to save sections in" >/dev/null
 shot save-sections-dialog
 type_name cut.jpg
@@ -229,7 +229,10 @@ check_section 2 300 0 340 200
 check_section 3 0 200 300 280
 check_section 4 300 200 340 280
 
-xdotool key --window "$main" ctrl+q
+# Exit with its key, in the main window made active again: its title has
+# changed since the start, and a key sent to a window id that X no longer
+# focuses is refused by the server.
+press_in "Slicewright( - .*)?" ctrl+q
 for _ in $(seq 50); do
     kill -0 "$app" 2>/dev/null || break
     sleep 0.1
