@@ -1,6 +1,5 @@
 // The event boundary of the program: exceptions that escape a handler, and
 // the end of the program when its last window has gone.
-#include "imaging/Picture.h"
 #include "qt/AboutForm.h"
 #include "qt/GuardedApplication.h"
 #include "qt/MainWindow.h"
@@ -8,13 +7,14 @@
 #include "qt/QtSettingsStore.h"
 #include "tests/qt/FindWidgets.h"
 #include "tests/qt/GuardedTestMain.h"
-#include "window/PictureOpening.h"
+#include "tests/qt/OpenPicture.h"
+#include "tests/qt/PlainPictureLoader.h"
+#include "tests/qt/SettingsFolder.h"
 #include "window/PointerFeedback.h"
 
 #include <QAction>
 #include <QMessageBox>
 #include <QSettings>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <functional>
 #include <new>
@@ -23,18 +23,6 @@
 using namespace sw;
 
 namespace {
-
-// Gives a plain picture, or throws what the test asks for.
-class SwitchableLoader : public PictureLoader {
-public:
-    std::function<void()> fail;
-    LoadedPicture LoadPicture(const std::string&) override {
-        if (fail) {
-            fail();
-        }
-        return {Picture::Filled(40, 30, 0x00FFFFFF), {}};
-    }
-};
 
 qt::GuardedApplication& guard() {
     return *static_cast<qt::GuardedApplication*>(QCoreApplication::instance());
@@ -85,7 +73,7 @@ int stepsBeforeTheProgramEnds(const std::vector<std::function<void()>>& steps) {
 // the program must end after the last of them and not before.
 using ClosingStep = std::function<void(QWidget& main, QWidget* about)>;
 void endsOnlyAfterTheLastStep(const std::vector<ClosingStep>& closing) {
-    SwitchableLoader loader;
+    test::PlainPictureLoader loader;
     qt::MainWindow window(loader, "/opt/slicewright");
     window.show();
     QWidget* about = nullptr;
@@ -107,8 +95,7 @@ class EventBoundaryTest : public QObject {
 
 private slots:
     void init() {
-        QVERIFY(config_.isValid());
-        qputenv("XDG_CONFIG_HOME", config_.path().toUtf8());
+        settings_.Use();
         QGuiApplication::setQuitOnLastWindowClosed(true);
         guard().SetReport([this](const QString& text) { reports_.append(text); });
         reports_.clear();
@@ -167,12 +154,11 @@ private slots:
     void anExceptionFromAHandlerLeavesTheWindowItsLinesAndSettings() {
         qt::QtSettingsStore().SaveSetting("Corvane-Studio", "Slicewright", "LastPicture",
                                           "/pictures/shown.bmp");
-        SwitchableLoader loader;
+        test::PlainPictureLoader loader;
         qt::MainWindow window(loader, "/opt/slicewright");
         window.show();
         Session& session = window.CurrentSession();
-        session.state.LastPicture = "/pictures/shown.bmp";
-        mnuLastCut_Click(session);
+        test::OpenPicture(window);
         picActual_MouseMove(session, 5, 12);
         window.Picture().onClick();
         QCOMPARE(session.state.hLineCount, static_cast<i16>(1));
@@ -195,7 +181,7 @@ private slots:
         triggerFromTheEventLoop(test::FindAction(window, "Red"));
         QCOMPARE(session.state.lineColor, 0x000000FFu);
         triggerFromTheEventLoop(test::FindAction(window, "Exit"));
-        QSettings stored(config_.filePath("Corvane-Studio.ini"), QSettings::IniFormat);
+        QSettings stored(settings_.FilePath("Corvane-Studio.ini"), QSettings::IniFormat);
         QCOMPARE(stored.value("Slicewright/LastPicture").toString(),
                  QString("/pictures/shown.bmp"));
     }
@@ -205,11 +191,10 @@ private slots:
         qt::QtSettingsStore().SaveSetting("Corvane-Studio", "Slicewright", "LastPicture",
                                           "/pictures/huge.bmp");
         guard().SetReport({});
-        SwitchableLoader loader;
+        test::PlainPictureLoader loader;
         qt::MainWindow window(loader, "/opt/slicewright");
         window.show();
-        window.CurrentSession().state.LastPicture = "/pictures/huge.bmp";
-        mnuLastCut_Click(window.CurrentSession());
+        test::OpenPicture(window, "/pictures/huge.bmp");
         loader.fail = [] { throw std::runtime_error("picture too large to hold"); };
         QString shown;
         QTimer answer;
@@ -254,7 +239,7 @@ private slots:
     }
 
 private:
-    QTemporaryDir config_;
+    test::SettingsFolder settings_;
     QStringList reports_;
 };
 

@@ -5,6 +5,8 @@
 #include "imaging/Picture.h"
 #include "qt/QtSettingsStore.h"
 #include "tests/qt/FindWidgets.h"
+#include "tests/qt/PlainPictureLoader.h"
+#include "tests/qt/SettingsFolder.h"
 
 #include <QAction>
 #include <QApplication>
@@ -22,25 +24,12 @@
 
 using namespace sw;
 
-namespace {
-
-// Pictures come from the test itself; no file is read.
-class FixedLoader : public PictureLoader {
-public:
-    LoadedPicture LoadPicture(const std::string&) override {
-        return {Picture::Filled(40, 30, 0x00FFFFFF), {}};
-    }
-};
-
-} // namespace
-
 class MainWindowTest : public QObject {
     Q_OBJECT
 
 private slots:
     void init() {
-        QVERIFY(config_.isValid());
-        qputenv("XDG_CONFIG_HOME", config_.path().toUtf8());
+        settings_.Use();
         // A fresh home for every test, with no Pictures folder unless the test makes one.
         home_ = std::make_unique<QTemporaryDir>();
         QVERIFY(home_->isValid());
@@ -48,7 +37,7 @@ private slots:
     }
 
     void commandsStartAsTheStoredLayoutHasThem() {
-        FixedLoader loader;
+        test::PlainPictureLoader loader;
         qt::MainWindow window(loader, "/opt/slicewright");
         QVERIFY(!test::FindAction(window, "Edit")->isEnabled());
         QVERIFY(!test::FindAction(window, "Create Sections")->isEnabled());
@@ -63,12 +52,12 @@ private slots:
 
     void exitWritesTheSixSettingsToTheUsersConfigFile() {
         QVERIFY(QDir(home_->path()).mkpath("Pictures"));
-        FixedLoader loader;
+        test::PlainPictureLoader loader;
         qt::MainWindow window(loader, "/opt/slicewright");
         window.show();
         test::FindAction(window, "Exit")->trigger();
         QVERIFY(!window.isVisible());
-        QSettings stored(config_.filePath("Corvane-Studio.ini"), QSettings::IniFormat);
+        QSettings stored(settings_.FilePath("Corvane-Studio.ini"), QSettings::IniFormat);
         // A first run starts in the user's Pictures folder, not the program's.
         const QString pictures = home_->filePath("Pictures");
         QCOMPARE(stored.value("Slicewright/LastOpenDir").toString(), pictures);
@@ -88,7 +77,7 @@ private slots:
         store.SaveSetting("Corvane-Studio", "Slicewright", "LastOpenDir", kept.toStdString());
         store.SaveSetting("Corvane-Studio", "Slicewright", "LastSaveDir",
                           home_->filePath("gone/").toStdString());
-        FixedLoader loader;
+        test::PlainPictureLoader loader;
         qt::MainWindow window(loader, "/opt/slicewright");
         const SessionState& state = window.CurrentSession().state;
         QCOMPARE(QString::fromStdString(state.LastOpenDir), kept);
@@ -100,12 +89,12 @@ private slots:
     void aFirstRunStartsInTheFolderTheDesktopNamesForPictures() {
         QVERIFY(QDir(home_->path()).mkpath("Pictures"));
         QVERIFY(QDir(home_->path()).mkpath("Bilder"));
-        QFile userFolders(config_.filePath("user-dirs.dirs"));
+        QFile userFolders(settings_.FilePath("user-dirs.dirs"));
         QVERIFY(userFolders.open(QIODevice::WriteOnly));
         userFolders.write("XDG_PICTURES_DIR=\"$HOME/Bilder\"\n");
         userFolders.close();
-        QFile::remove(config_.filePath("Corvane-Studio.ini"));
-        FixedLoader loader;
+        QFile::remove(settings_.FilePath("Corvane-Studio.ini"));
+        test::PlainPictureLoader loader;
         qt::MainWindow window(loader, "/opt/slicewright");
         userFolders.remove();
         const SessionState& state = window.CurrentSession().state;
@@ -116,7 +105,7 @@ private slots:
     void aStoredLastPictureBecomesTheRememberedItem() {
         qt::QtSettingsStore().SaveSetting("Corvane-Studio", "Slicewright", "LastPicture",
                                           "/home/ann/gone.jpg");
-        FixedLoader loader;
+        test::PlainPictureLoader loader;
         qt::MainWindow window(loader, "/opt/slicewright");
         QAction* lastCut = test::FindAction(window, "/home/ann/gone.jpg");
         QVERIFY(lastCut != nullptr);
@@ -133,7 +122,7 @@ private slots:
     }
 
     void strokesSpanThePictureAndStayInItsImage() {
-        FixedLoader loader;
+        test::PlainPictureLoader loader;
         qt::MainWindow window(loader, "/opt/slicewright");
         qt::PictureCanvas& canvas = window.Picture();
         canvas.SetPicture(Picture::Filled(40, 30, 0x00FFFFFF));
@@ -149,7 +138,7 @@ private slots:
     }
 
     void aDoubleClickRecordsOneLineAtThePointer() {
-        FixedLoader loader;
+        test::PlainPictureLoader loader;
         qt::MainWindow window(loader, "/opt/slicewright");
         window.show();
         Session& session = window.CurrentSession();
@@ -185,7 +174,7 @@ private slots:
     void atTheLeastWidthEveryMenuAndButtonIsInView() {
         qt::QtSettingsStore().SaveSetting("Corvane-Studio", "Slicewright", "LastPicture",
                                           "/pictures/narrow.bmp");
-        FixedLoader loader;
+        test::PlainPictureLoader loader;
         qt::MainWindow window(loader, "/opt/slicewright");
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
@@ -215,7 +204,7 @@ private slots:
 
     // Each button shows its own image, sharp at scale 1 and 2, and no text.
     void toolbarButtonsShowImagesAndToolTips() {
-        FixedLoader loader;
+        test::PlainPictureLoader loader;
         qt::MainWindow window(loader, "/opt/slicewright");
         auto* toolbar = window.findChild<QToolBar*>();
         QCOMPARE(toolbar->toolButtonStyle(), Qt::ToolButtonIconOnly);
@@ -239,7 +228,7 @@ private slots:
     }
 
 private:
-    QTemporaryDir config_;
+    test::SettingsFolder settings_;
     std::unique_ptr<QTemporaryDir> home_;
 };
 

@@ -1,41 +1,21 @@
 // The viewport of the main window on a real (offscreen or Xvfb) platform:
 // the logic's scroll bars and moves carried out by Qt widgets.
-#include "imaging/Picture.h"
 #include "qt/MainWindow.h"
 #include "qt/QtScrollBar.h"
+#include "tests/qt/OpenPicture.h"
+#include "tests/qt/PlainPictureLoader.h"
+#include "tests/qt/SettingsFolder.h"
 #include "window/PictureOpening.h"
 
 #include <QApplication>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QScrollBar>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace sw;
 
 namespace {
-
-// Every file is a plain picture of the size the test asks for.
-class SizedLoader : public PictureLoader {
-public:
-    SizedLoader(int width, int height) : width_(width), height_(height) {}
-    LoadedPicture LoadPicture(const std::string&) override {
-        return {Picture::Filled(width_, height_, 0x00FFFFFF), {}};
-    }
-
-private:
-    int width_;
-    int height_;
-};
-
-void open(qt::MainWindow& window) {
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    window.CurrentSession().state.LastPicture = "/pictures/shown.bmp";
-    mnuLastCut_Click(window.CurrentSession());
-    QApplication::processEvents();
-}
 
 void moveOver(QWidget& widget, QPoint at) {
     QMouseEvent move(QEvent::MouseMove, at, widget.mapToGlobal(QPointF(at)), Qt::NoButton,
@@ -49,17 +29,14 @@ class ViewportTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() {
-        QVERIFY(config_.isValid());
-        qputenv("XDG_CONFIG_HOME", config_.path().toUtf8());
-    }
+    void init() { settings_.Use(); }
 
     // 6390 x 6060 twips outside: a client area of 418 x 358 pixels under the
     // menu bar, the picture at 8,48 and no bar.
     void aSmallPictureGetsAWindowOfItsSizeAndNoBars() {
-        SizedLoader loader(400, 300);
+        test::PlainPictureLoader loader(400, 300);
         qt::MainWindow window(loader, "/opt/slicewright");
-        open(window);
+        test::ShowWithPicture(window);
         QCOMPARE(window.ClientArea().size(), QSize(418, 358));
         QCOMPARE(window.ClientArea().y(), window.menuBar()->height());
         QCOMPARE(window.Picture().geometry(), QRect(8, 48, 400, 300));
@@ -70,9 +47,9 @@ private slots:
     // Taller than any test screen: the window is cut down to the screen and
     // both bars show along its edges, with the corner piece between them.
     void aLargePictureShowsBothBarsAtTheClientAreasEdges() {
-        SizedLoader loader(1200, 1000);
+        test::PlainPictureLoader loader(1200, 1000);
         qt::MainWindow window(loader, "/opt/slicewright");
-        open(window);
+        test::ShowWithPicture(window);
         const int screenHeight = window.screen()->geometry().height();
         QVERIFY(window.height() < screenHeight);
         QScrollBar& vbar = window.VScrollBar();
@@ -90,9 +67,9 @@ private slots:
     }
 
     void movingABarMovesThePictureAndItsLabelOnly() {
-        SizedLoader loader(1200, 1000);
+        test::PlainPictureLoader loader(1200, 1000);
         qt::MainWindow window(loader, "/opt/slicewright");
-        open(window);
+        test::ShowWithPicture(window);
         QWidget& picture = window.Picture();
         const QPoint vbarAt = window.VScrollBar().pos();
         window.VScrollBar().triggerAction(QAbstractSlider::SliderSingleStepAdd);
@@ -110,9 +87,9 @@ private slots:
     }
 
     void aResizeBringsTheViewBackToTheTopLeftCorner() {
-        SizedLoader loader(1200, 1000);
+        test::PlainPictureLoader loader(1200, 1000);
         qt::MainWindow window(loader, "/opt/slicewright");
-        open(window);
+        test::ShowWithPicture(window);
         window.VScrollBar().setValue(600);
         window.HScrollBar().setValue(150);
         window.resize(window.width() - 10, window.height() - 10);
@@ -122,9 +99,9 @@ private slots:
     }
 
     void aClickAfterScrollingRecordsThePicturesOwnPixel() {
-        SizedLoader loader(1200, 1000);
+        test::PlainPictureLoader loader(1200, 1000);
         qt::MainWindow window(loader, "/opt/slicewright");
-        open(window);
+        test::ShowWithPicture(window);
         window.VScrollBar().setValue(900);
         window.HScrollBar().setValue(150);
         qt::PictureCanvas& canvas = window.Picture();
@@ -140,12 +117,12 @@ private slots:
     // A picture wider than the screen gets a window no wider than the
     // screen's work area, whole on the screen with both bars in reach.
     void aPictureWiderThanTheScreenGetsAWindowOnTheScreen() {
-        SizedLoader loader(3000, 2000);
+        test::PlainPictureLoader loader(3000, 2000);
         qt::MainWindow window(loader, "/opt/slicewright");
         // Placed before it is shown, as the program places it, so that a
         // window manager's own placement does not arrive late.
         window.move(300, 200);
-        open(window);
+        test::ShowWithPicture(window);
         // A window manager carries out the size and place a little later.
         const QRect work = window.screen()->availableGeometry();
         QTRY_VERIFY_WITH_TIMEOUT(work.contains(window.frameGeometry()), 5000);
@@ -160,7 +137,7 @@ private slots:
     // The form's size goes out and comes back in twips, frame and menu bar
     // included, whatever the menu bar's real height.
     void theFormsSizeReadsBackAsWritten() {
-        SizedLoader loader(400, 300);
+        test::PlainPictureLoader loader(400, 300);
         qt::MainWindow window(loader, "/opt/slicewright");
         window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&window));
@@ -181,9 +158,9 @@ private slots:
     // normal at the picture's size; a window manager's late restore must
     // not undo that size.
     void openingInAMaximisedWindowKeepsThePicturesSize() {
-        SizedLoader loader(400, 300);
+        test::PlainPictureLoader loader(400, 300);
         qt::MainWindow window(loader, "/opt/slicewright");
-        open(window);
+        test::ShowWithPicture(window);
         // Maximised by the user, which the window manager carries out later.
         window.showMaximized();
         QTest::qWait(500);
@@ -199,9 +176,9 @@ private slots:
     // Minimising keeps the size in Qt, so no resize event comes; the view
     // must still go back to the picture's corner.
     void minimisingBringsBothBarsToZero() {
-        SizedLoader loader(1200, 1000);
+        test::PlainPictureLoader loader(1200, 1000);
         qt::MainWindow window(loader, "/opt/slicewright");
-        open(window);
+        test::ShowWithPicture(window);
         window.VScrollBar().setValue(450);
         window.setWindowState(Qt::WindowMinimized);
         QApplication::processEvents();
@@ -228,7 +205,7 @@ private slots:
     }
 
 private:
-    QTemporaryDir config_;
+    test::SettingsFolder settings_;
 };
 
 QTEST_MAIN(ViewportTest)

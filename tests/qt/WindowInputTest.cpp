@@ -1,11 +1,12 @@
 // The main window under the keyboard, the wheel and the pointer: shortcuts
 // and access keys, wheel scrolling, radio groups, and what the title shows
 // after a new picture.
-#include "imaging/Picture.h"
 #include "qt/MainWindow.h"
-#include "qt/QtSettingsStore.h"
 #include "tests/qt/FindWidgets.h"
-#include "window/PictureOpening.h"
+#include "tests/qt/OpenPicture.h"
+#include "tests/qt/PlainPictureLoader.h"
+#include "tests/qt/SettingsFolder.h"
+#include "window/Toolbar.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -13,29 +14,12 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QWheelEvent>
 
 using namespace sw;
 
 namespace {
-
-// Every file is a plain picture of the size last asked for.
-class SizedLoader : public PictureLoader {
-public:
-    int width = 400;
-    int height = 300;
-    LoadedPicture LoadPicture(const std::string&) override {
-        return {Picture::Filled(width, height, 0x00FFFFFF), {}};
-    }
-};
-
-void openPicture(qt::MainWindow& window) {
-    window.CurrentSession().state.LastPicture = "/pictures/shown.bmp";
-    mnuLastCut_Click(window.CurrentSession());
-    QApplication::processEvents();
-}
 
 void turnWheel(QWidget& over, int delta, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     // Sent straight to the client area: an event sent by hand is not passed on
@@ -52,10 +36,7 @@ class WindowInputTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void init() {
-        QVERIFY(config_.isValid());
-        qputenv("XDG_CONFIG_HOME", config_.path().toUtf8());
-    }
+    void init() { settings_.Use(); }
 
     void shortcutsAreTheStandardKeysShownInTheMenus_data() {
         QTest::addColumn<QString>("caption");
@@ -74,13 +55,11 @@ private slots:
     void shortcutsAreTheStandardKeysShownInTheMenus() {
         QFETCH(QString, caption);
         QFETCH(QKeySequence, keys);
-        SizedLoader loader;
+        test::PlainPictureLoader loader(400, 300);
         qt::MainWindow window(loader, "/opt/slicewright");
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        QApplication::setActiveWindow(&window);
         // With a picture open the Edit menu, and Undo with it, is reachable.
-        openPicture(window);
+        test::ShowWithPicture(window);
+        QApplication::setActiveWindow(&window);
         QAction* item = test::FindAction(window, caption);
         QVERIFY(item != nullptr);
         QCOMPARE(item->shortcut(), keys);
@@ -97,7 +76,7 @@ private slots:
     }
 
     void theFiveMenusHaveTheirFirstLetterAsAltKey() {
-        SizedLoader loader;
+        test::PlainPictureLoader loader(400, 300);
         qt::MainWindow window(loader, "/opt/slicewright");
         QStringList titles;
         for (QAction* menu : window.menuBar()->actions()) {
@@ -107,13 +86,9 @@ private slots:
     }
 
     void theWheelMovesTheBarsSoThatTheirChangeRuns() {
-        SizedLoader loader;
-        loader.width = 3000;
-        loader.height = 2000;
+        test::PlainPictureLoader loader(3000, 2000);
         qt::MainWindow window(loader, "/opt/slicewright");
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        openPicture(window);
+        test::ShowWithPicture(window);
         QScrollBar& vbar = window.VScrollBar();
         QScrollBar& hbar = window.HScrollBar();
         QVERIFY(vbar.isVisible() && hbar.isVisible());
@@ -137,11 +112,9 @@ private slots:
     }
 
     void theWheelDoesNothingWhereTheBarIsHidden() {
-        SizedLoader loader;
+        test::PlainPictureLoader loader(400, 300);
         qt::MainWindow window(loader, "/opt/slicewright");
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        openPicture(window);
+        test::ShowWithPicture(window);
         QVERIFY(!window.VScrollBar().isVisible());
         const QPoint place = window.Picture().pos();
         turnWheel(window.ClientArea(), -360);
@@ -154,7 +127,7 @@ private slots:
     // The draw modes and the colours are radio groups, still set by the
     // logic: the toolbar's draw button moves the mark in the menu.
     void exclusiveChoicesAreRadioGroupsDrivenByTheLogic() {
-        SizedLoader loader;
+        test::PlainPictureLoader loader(400, 300);
         qt::MainWindow window(loader, "/opt/slicewright");
         QAction* horizontal = test::FindAction(window, "Horizontal Line");
         QAction* vertical = test::FindAction(window, "Vertical Line");
@@ -177,13 +150,9 @@ private slots:
 
     // After a new picture the title shows no place from the one before.
     void aNewPictureLeavesNoPointerPlaceOfTheLastOne() {
-        SizedLoader loader;
-        loader.width = 1600;
-        loader.height = 700;
+        test::PlainPictureLoader loader(1600, 700);
         qt::MainWindow window(loader, "/opt/slicewright");
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        openPicture(window);
+        test::ShowWithPicture(window);
         QMouseEvent move(QEvent::MouseMove, QPointF(1500, 600), QPointF(1500, 600), Qt::NoButton,
                          Qt::NoButton, Qt::NoModifier);
         QApplication::sendEvent(&window.Picture(), &move);
@@ -191,19 +160,19 @@ private slots:
         QCursor::setPos(window.mapToGlobal(QPoint(-50, -50)));
         loader.width = 640;
         loader.height = 480;
-        openPicture(window);
+        test::OpenPicture(window);
         QApplication::processEvents();
         QCOMPARE(window.windowTitle(), QString("Slicewright"));
     }
 
     void theWindowCarriesTheProjectsIcon() {
-        SizedLoader loader;
+        test::PlainPictureLoader loader(400, 300);
         qt::MainWindow window(loader, "/opt/slicewright");
         QVERIFY(!window.windowIcon().isNull());
     }
 
 private:
-    QTemporaryDir config_;
+    test::SettingsFolder settings_;
 };
 
 QTEST_MAIN(WindowInputTest)
