@@ -3,6 +3,7 @@
 #include "dialogs/frmAbout.h"
 #include "qt/ApplicationIcon.h"
 #include "qt/QtText.h"
+#include "qt/RenderedIcon.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -14,6 +15,7 @@ namespace sw::qt {
 namespace {
 
 constexpr int kReadableWidth = 380;
+constexpr int kLogoSize = 96;
 
 QLabel* centred(const QString& text, QWidget* parent) {
     auto* label = new QLabel(text, parent);
@@ -55,11 +57,8 @@ void AboutForm::setupTexts(const frmAbout& form) {
 // imgLogo: the project's logo, a flat button that leads to the maker's page.
 QWidget* AboutForm::makeLogo() {
     auto* logo = new QToolButton(this);
-    QIcon image;
-    image.addFile(":/about/logo-96.png", QSize(96, 96));
-    image.addFile(":/about/logo-192.png", QSize(192, 192));
-    logo->setIcon(image);
-    logo->setIconSize(QSize(96, 96));
+    logo->setIcon(RenderedIcon("about", "logo", {kLogoSize, 2 * kLogoSize}));
+    logo->setIconSize(QSize(kLogoSize, kLogoSize));
     logo->setAutoRaise(true);
     logo->setFocusPolicy(Qt::NoFocus);
     logo->setToolTip(frmAbout::kLogoToolTip);

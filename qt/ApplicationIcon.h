@@ -4,8 +4,8 @@
 
 namespace sw::qt {
 
-// The program's icon for its windows (and the about window's logo), built from
-// the rendered PNG sizes so that it shows without Qt's SVG plugin.
+// The program's icon for its windows, built from the rendered PNG sizes so
+// that it shows without Qt's SVG plugin.
 QIcon ApplicationIcon();
 
 } // namespace sw::qt

@@ -1,5 +1,7 @@
 #include "qt/ToolbarImages.h"
 
+#include "qt/RenderedIcon.h"
+
 #include <array>
 
 namespace sw::qt {
@@ -22,11 +24,8 @@ QIcon ToolbarImage(int place) {
     if (place < 1 || place > static_cast<int>(kImageNames.size())) {
         return {};
     }
-    const QString name = kImageNames[static_cast<std::size_t>(place - 1)];
-    QIcon icon;
-    icon.addFile(":/toolbar/" + name + "-16.png", QSize(16, 16));
-    icon.addFile(":/toolbar/" + name + "-32.png", QSize(32, 32));
-    return icon;
+    return RenderedIcon("toolbar", kImageNames[static_cast<std::size_t>(place - 1)],
+                        {kToolbarImageSize, 2 * kToolbarImageSize});
 }
 
 } // namespace sw::qt
