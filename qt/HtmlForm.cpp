@@ -13,6 +13,12 @@
 #include <algorithm>
 
 namespace sw::qt {
+namespace {
+
+// The stored client area, 7830 x 4350 twips.
+constexpr QSize kStoredSize(522, 290);
+
+} // namespace
 
 HtmlForm::HtmlForm(frmHTML& form, QWidget* owner) : QDialog(owner), form_(form) {
     setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
@@ -33,14 +39,12 @@ void HtmlForm::fitToText() {
     for (const QString& line : lines) {
         widest = std::max(widest, metrics.horizontalAdvance(line));
     }
-    const QSize chrome = sizeHint() - rtxtHTML_->sizeHint();
+    // Room for the text box's frame, margins and both bars around the text.
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    const QSize wanted(widest + chrome.width() + bar + 16,
-                       static_cast<int>(lines.size()) * metrics.lineSpacing() + chrome.height() +
-                           bar + 16);
-    const QSize most = screen()->availableGeometry().size() * 8 / 10;
-    resize(std::clamp(wanted.width(), 522, std::max(522, most.width())),
-           std::clamp(wanted.height(), 290, std::max(290, most.height())));
+    const QSize around = sizeHint() - rtxtHTML_->sizeHint() + QSize(bar + 16, bar + 16);
+    const QSize text(widest, static_cast<int>(lines.size()) * metrics.lineSpacing());
+    const QSize most = (screen()->availableGeometry().size() * 8 / 10).expandedTo(kStoredSize);
+    resize((text + around).expandedTo(kStoredSize).boundedTo(most));
 }
 
 void HtmlForm::setupControls() {
