@@ -48,6 +48,24 @@ press() {
     done
 }
 
+# picture_origin WINDOW: the screen point "X Y" of the open picture's pixel
+# 0,0, found from the title, which names the picture's pixel under the
+# pointer; the pointer is put over the window's centre, which the picture
+# must cover.
+picture_origin() {
+    local X Y WIDTH HEIGHT
+    eval "$(xdotool getwindowgeometry --shell "$1" | grep -E '^(X|Y|WIDTH|HEIGHT)=')"
+    local pointer_x=$((X + WIDTH / 2)) pointer_y=$((Y + HEIGHT / 2))
+    xdotool mousemove "$pointer_x" "$pointer_y"
+    sleep 0.5
+    local position
+    position=$(xdotool getwindowname "$1" | sed -n 's/.*Current Position: \([0-9]*\),\([0-9]*\)$/\1 \2/p')
+    [ -n "$position" ] || fail "the pointer is not over the picture"
+    local picture_x picture_y
+    read -r picture_x picture_y <<<"$position"
+    echo "$((pointer_x - picture_x)) $((pointer_y - picture_y))"
+}
+
 # close_program WINDOW PID: closes the window by the window manager's close
 # key, so that the program ends as when the user closes it, and waits for it
 # (and for its exit status, when this shell started it).
