@@ -7,25 +7,19 @@
 #   check-cut.sh GROUP CUT RUNNER DATA WORKDIR
 set -euo pipefail
 
-render_page=$(cd "$(dirname "$0")/.." && pwd)/render-in-chromium.sh
+tests=$(cd "$(dirname "$0")/.." && pwd)
+# shellcheck source=SCRIPTDIR/../lib/checks.sh
+. "$tests/lib/checks.sh"
+# shellcheck source=SCRIPTDIR/../lib/window-script.sh
+. "$tests/lib/window-script.sh"
+render_page=$tests/render-in-chromium.sh
 group=$1
 cut=$2
 runner=$3
 data=$4
 work=$5
 
-convert=/usr/bin/convert
-compare=/usr/bin/compare
-identify=/usr/bin/identify
-jq=/usr/bin/jq
-
-fail() {
-    echo "FAIL: $*" >&2
-    exit 1
-}
-for tool in "$convert" "$compare" "$identify" "$jq"; do
-    [[ -x $tool ]] || fail "$tool is missing (packages imagemagick, jq)"
-done
+need_tools "$convert" "$compare" "$identify" "$jq"
 
 rm -rf "$work"
 mkdir -p "$work"
@@ -66,10 +60,8 @@ check_manifest() {
     while read -r number file; do
         local geometry
         geometry=$(geometry_of "$manifest" "$number")
-        "$convert" "$picture" -crop "$geometry" +repage crop.png
-        local differing
-        differing=$("$compare" -metric AE "$file" crop.png null: 2>&1 || true)
-        [[ $differing == 0 ]] || fail "$file differs from the crop $geometry in $differing pixels"
+        "$convert" "$picture" -crop "$geometry" +repage "crop-$geometry.png"
+        same_pixels "$file" "crop-$geometry.png"
         area=$((area + $("$identify" -format '%w*%h' "$file")))
     done < <("$jq" -r '.sections[] | select(.file != null) | "\(.number) \(.file)"' "$manifest")
     ((area == width * height)) || fail "$manifest: the pieces cover $area pixels, not $((width * height))"
@@ -79,19 +71,12 @@ check_manifest() {
 window_table() {
     local picture=$1 save=$2 hlines=$3 vlines=$4 empty_answer=${5:-}
     {
-        echo 'store HTMLOut "N"'
-        echo start
-        echo "answer open \"$picture\""
-        echo event mnuOPen_Click
-        echo event mnuHorizontalLine_Click
-        for y in $hlines; do printf 'event picActual_MouseMove %s %s\nevent picActual_Click\n' "$y" "$y"; done
-        echo event mnuVerticalLine_Click
-        for x in $vlines; do printf 'event picActual_MouseMove %s %s\nevent picActual_Click\n' "$x" "$x"; done
-        echo "answer save \"$save\""
-        [[ -n $empty_answer ]] && echo "answer box $empty_answer"
-        echo 'answer finish F'
-        echo 'answer box No'
-        echo event mnuCreate_Click
+        open_picture "$picture"
+        # shellcheck disable=SC2086
+        draw_lines Horizontal $hlines
+        # shellcheck disable=SC2086
+        draw_lines Vertical $vlines
+        export_to "$save" "$empty_answer"
     } > window.scn
     "$runner" window.scn > window.txt || fail "the scenario runner stopped: $(tail -3 window.txt)"
 }
@@ -99,12 +84,6 @@ window_table() {
 # render PAGE SHOT WIDTH HEIGHT MARGIN: the page as Chromium shows it, cut to the picture.
 render() {
     "$render_page" "$@" || fail "no rendering of $1"
-}
-
-same_pixels() {
-    local differing
-    differing=$("$compare" -metric AE "$1" "$2" null: 2>&1 || true)
-    [[ $differing == 0 ]] || fail "$1 differs from $2 in $differing pixels"
 }
 
 group_options() {
@@ -320,7 +299,7 @@ group_demo() {
     # JPEG pieces: the page must show the picture as the pieces decode.
     "$convert" photo.jpg demo-ref.png
     local db
-    db=$("$compare" -metric PSNR demo.png demo-ref.png null: 2>&1 || true)
+    db=$(psnr_db demo.png demo-ref.png)
     awk -v db="$db" 'BEGIN { exit !(db == "inf" || db >= 30) }' || fail "the page shows the picture at $db dB"
     echo "the README's example works"
 }
