@@ -12,8 +12,6 @@
 namespace sw {
 namespace {
 
-constexpr const char* kProgram = "slicewright-cut";
-
 // A usage error: the program stops before anything is read or written.
 struct UsageError {
     std::string what;

@@ -21,8 +21,6 @@
 namespace sw {
 namespace {
 
-constexpr const char* kProgram = "slicewright-cut";
-
 std::string failureText(const SectionFailure& failure) {
     switch (failure.kind) {
     case SectionFailure::Kind::Encoder:
