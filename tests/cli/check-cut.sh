@@ -213,6 +213,13 @@ group_failures() {
         fail "refusal: $(cat err.txt)"
     grep -q "no file was written" err.txt || fail "refusal: $(cat err.txt)"
     [[ ! -e refused ]] || fail "a refused division wrote something"
+    # A page or manifest named like a piece, or like each other, would write
+    # over it: refused before anything is written.
+    expect 1 "$cut" plasma.bmp --grid 2x2 -o clash --html clash/plasma3.bmp
+    grep -q "clash/plasma3.bmp would be written twice" err.txt || fail "page over a piece: $(cat err.txt)"
+    expect 1 "$cut" plasma.bmp --grid 2x2 -o clash --css clash/t.html --manifest ./clash/t.html
+    grep -q "clash/t.html would be written twice" err.txt || fail "page over a manifest: $(cat err.txt)"
+    [[ ! -e clash ]] || fail "a run with a file named twice wrote something"
     # A corrupt line file: the window's words.
     printf '"H5"\r\ngarbage\r\n' > bad.ple
     expect 1 "$cut" plasma.bmp --lines bad.ple -o corrupt
