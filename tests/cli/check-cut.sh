@@ -239,6 +239,13 @@ group_failures() {
     grep -q "^  stuck/plasma2.png" err.txt || fail "written list: $(cat err.txt)"
     [[ -d stuck/plasma3.png && ! -e stuck/plasma4.png ]] || fail "the run went on after the failure"
     ls stuck | grep -qv '^plasma[123].png$' && fail "a temporary file stayed: $(ls stuck)"
+    # A check that fails: noise at quality 1 decodes some 10 dB from the
+    # picture, far below the floor of 20 dB; every piece is named, exit 1.
+    "$convert" -seed 3 -size 120x80 xc: +noise Random noise.bmp
+    expect 1 "$cut" noise.bmp --grid 2x2 -o lossy -f jpg -q 1 --verify
+    [[ $(grep -c "noise.bmp: verify: lossy/noise[1-4].jpg: PSNR [0-9]* dB, below the floor of 20 dB" err.txt) == 4 ]] ||
+        fail "a failed check: $(cat err.txt)"
+    grep -q "^  lossy/noise4.jpg" err.txt || fail "a failed check does not list the pieces: $(cat err.txt)"
     echo "failures checked"
 }
 
