@@ -8,9 +8,9 @@
 #include "Verification.h"
 #include "common/AtomicFile.h"
 #include "common/FileWriteError.h"
-#include "export/ClipContainer.h"
 #include "export/SectionArea.h"
 #include "export/SectionWriter.h"
+#include "imaging/ClipContainer.h"
 #include "qt/image/QtPictureLoader.h"
 
 #include <cmath>
