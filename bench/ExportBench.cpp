@@ -5,10 +5,10 @@
 // Prints one "name=milliseconds" line per measure, the best of several runs.
 #include "bench/BareWriters.h"
 #include "common/RunInOrder.h"
-#include "export/ClipContainer.h"
 #include "export/ImagingSectionEncoder.h"
 #include "export/SectionGrid.h"
 #include "export/SectionWriter.h"
+#include "imaging/ClipContainer.h"
 #include "qt/image/QtPictureLoader.h"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
 #include "CommandLine.h"
 
+#include "CutPlanner.h"
 #include "common/Numbers.h"
 #include "export/SaveName.h"
 #include "session/EqualDivision.h"
@@ -11,8 +12,6 @@
 
 namespace sw {
 namespace {
-
-constexpr const char* kProgram = "slicewright-cut";
 
 // A usage error: the program stops before anything is read or written.
 struct UsageError {
@@ -47,8 +46,7 @@ std::string footer() {
 // One count of --grid, read as the window reads its division box: a count of
 // 1 leaves that direction undivided.
 void checkGridCount(const std::string& text, const std::string& which) {
-    const Converted<i16> n = TextToInteger(text);
-    if (n.ok() && IsNumericText(text) && n.value == 1) {
+    if (LeavesUndivided(text)) {
         return;
     }
     // Any picture of the largest size passes the test against its size here;

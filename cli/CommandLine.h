@@ -7,6 +7,9 @@
 
 namespace sw {
 
+// The name the program's messages begin with.
+inline constexpr const char* kProgram = "slicewright-cut";
+
 // What the command line comes to: options to run with, or an answer that
 // ends the program at once (help and version on standard output with exit
 // 0, a usage error on standard error with exit 2).

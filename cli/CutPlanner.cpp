@@ -18,8 +18,7 @@ float twips(i32 pixels) {
 // the window's equal division with its refusals.
 std::variant<std::vector<i16>, PlanRefusal> divide(const std::string& count, Direction direction,
                                                    i32 size) {
-    const Converted<i16> n = TextToInteger(count);
-    if (n.ok() && IsNumericText(count) && n.value == 1) {
+    if (LeavesUndivided(count)) {
         return std::vector<i16>{};
     }
     const SectionCount sections = CountSections(count, direction, twips(size));
@@ -85,6 +84,11 @@ std::optional<std::string> applyPattern(CutPlan& plan, const NamePattern& patter
 }
 
 } // namespace
+
+bool LeavesUndivided(const std::string& count) {
+    const Converted<i16> n = TextToInteger(count);
+    return n.ok() && IsNumericText(count) && n.value == 1;
+}
 
 std::variant<PlannedLines, PlanRefusal> PlanLines(const CutOptions& options, i32 width, i32 height,
                                                   const ParsedLineFile& lineFile) {

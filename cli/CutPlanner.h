@@ -21,6 +21,10 @@ struct PlanRefusal {
     std::string why;
 };
 
+// Whether a count of --grid leaves its direction undivided: 1, read as the
+// division box reads a number, places no line where the box would refuse it.
+bool LeavesUndivided(const std::string& count);
+
 // The lines that the options put on a picture of that size: an equal
 // division, tiles, the records of a line file (read beforehand), or the
 // lines given.

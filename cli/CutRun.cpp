@@ -8,9 +8,9 @@
 #include "Verification.h"
 #include "common/AtomicFile.h"
 #include "common/FileWriteError.h"
-#include "export/ClipContainer.h"
 #include "export/SectionArea.h"
 #include "export/SectionWriter.h"
+#include "imaging/ClipContainer.h"
 #include "qt/image/QtPictureLoader.h"
 
 #include <cmath>
@@ -20,8 +20,6 @@
 
 namespace sw {
 namespace {
-
-constexpr const char* kProgram = "slicewright-cut";
 
 std::string failureText(const SectionFailure& failure) {
     switch (failure.kind) {
@@ -127,10 +125,8 @@ void CutRun::printPlan(const PictureJob& job) {
              << (HasArea(piece) ? piece.FileName : "(no area inside the picture: not written)")
              << "\n";
     }
-    for (const std::string* side : {&job.htmlFile, &job.cssFile, &job.manifestFile}) {
-        if (!side->empty()) {
-            out_ << "  " << *side << "\n";
-        }
+    for (const std::string& side : SideFilesOf(job)) {
+        out_ << "  " << side << "\n";
     }
 }
 
@@ -210,11 +206,9 @@ void CutRun::printSummary(const PictureJob& job) {
     out_ << job.picture << ": " << job.plan.Sections.size() - empty.size()
          << " piece(s) written to " << job.plan.Destination.Folder;
     const char* separator = "; also ";
-    for (const std::string* side : {&job.htmlFile, &job.cssFile, &job.manifestFile}) {
-        if (!side->empty()) {
-            out_ << separator << *side;
-            separator = ", ";
-        }
+    for (const std::string& side : SideFilesOf(job)) {
+        out_ << separator << side;
+        separator = ", ";
     }
     out_ << "\n";
 }

@@ -4,6 +4,9 @@
 #include "export/SaveName.h"
 
 #include <filesystem>
+#include <optional>
+#include <set>
+#include <system_error>
 
 namespace sw {
 namespace {
@@ -24,6 +27,21 @@ std::string sideFile(const CutOptions& options, const std::string& given,
         return given;
     }
     return folder + std::filesystem::path(given).filename().string();
+}
+
+// A file the job would write twice: a page or manifest named like a piece,
+// or like each other, would overwrite what was written before it.
+std::optional<std::string> writtenTwice(const PictureJob& job) {
+    std::set<std::filesystem::path> paths;
+    for (const std::string& file : FilesOf(job)) {
+        std::error_code error;
+        const std::filesystem::path path =
+            std::filesystem::absolute(file, error).lexically_normal();
+        if (!paths.insert(path).second) {
+            return file;
+        }
+    }
+    return std::nullopt;
 }
 
 } // namespace
@@ -56,6 +74,11 @@ std::variant<PictureJob, PlanRefusal> PlanJob(const CutOptions& options, const s
     job.htmlFile = sideFile(options, options.htmlFile, folder);
     job.cssFile = sideFile(options, options.cssFile, folder);
     job.manifestFile = sideFile(options, options.manifestFile, folder);
+    if (const auto twice = writtenTwice(job)) {
+        return PlanRefusal{*twice +
+                           " would be written twice, over a piece or another of "
+                           "--html, --css and --manifest; give each file a name of its own"};
+    }
     return job;
 }
 

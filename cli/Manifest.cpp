@@ -24,14 +24,18 @@ nlohmann::json sectionEntry(const SectionRect& piece, i32 columns) {
 } // namespace
 
 std::string ManifestText(const ManifestSource& source, const PieceLayout& layout) {
+    const auto columns = static_cast<i32>(layout.columnWidths.size());
     nlohmann::json sections = nlohmann::json::array();
     for (const SectionRect& piece : layout.pieces) {
-        sections.push_back(sectionEntry(piece, source.columns));
+        sections.push_back(sectionEntry(piece, columns));
     }
     const nlohmann::json manifest = {
-        {"picture", source.picture}, {"width", source.width},
-        {"height", source.height},   {"format", NameOf(source.format)},
-        {"rows", source.rows},       {"columns", source.columns},
+        {"picture", source.picture},
+        {"width", source.width},
+        {"height", source.height},
+        {"format", NameOf(source.format)},
+        {"rows", layout.rowHeights.size()},
+        {"columns", columns},
         {"sections", sections},
     };
     return manifest.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) + "\n";

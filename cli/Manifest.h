@@ -13,14 +13,13 @@ struct ManifestSource {
     i32 width = 0;
     i32 height = 0;
     PieceFormat format = PieceFormat::Bmp;
-    i32 rows = 0;
-    i32 columns = 0;
 };
 
-// The manifest as JSON: the picture and, for every section in numbering
-// order, its number, row and column (from 1), its rectangle inside the
-// picture and its file (null for a section without area, which is not
-// written). Paths stand as they were given; bytes that are no UTF-8 are replaced.
+// The manifest as JSON: the picture, the rows and columns of the layout and,
+// for every section in numbering order, its number, row and column (from 1),
+// its rectangle inside the picture and its file (null for a section without
+// area, which is not written). Paths stand as they were given; bytes that
+// are no UTF-8 are replaced.
 std::string ManifestText(const ManifestSource& source, const PieceLayout& layout);
 
 } // namespace sw

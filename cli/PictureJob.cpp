@@ -4,6 +4,16 @@
 
 namespace sw {
 
+std::vector<std::string> SideFilesOf(const PictureJob& job) {
+    std::vector<std::string> files;
+    for (const std::string* side : {&job.htmlFile, &job.cssFile, &job.manifestFile}) {
+        if (!side->empty()) {
+            files.push_back(*side);
+        }
+    }
+    return files;
+}
+
 std::vector<std::string> FilesOf(const PictureJob& job) {
     std::vector<std::string> files;
     for (const SectionRect& piece : job.layout.pieces) {
@@ -11,11 +21,8 @@ std::vector<std::string> FilesOf(const PictureJob& job) {
             files.push_back(piece.FileName);
         }
     }
-    for (const std::string* side : {&job.htmlFile, &job.cssFile, &job.manifestFile}) {
-        if (!side->empty()) {
-            files.push_back(*side);
-        }
-    }
+    const std::vector<std::string> sides = SideFilesOf(job);
+    files.insert(files.end(), sides.begin(), sides.end());
     return files;
 }
 

@@ -5,6 +5,7 @@
 #include "export/CutPlan.h"
 
 #include <string>
+#include <vector>
 
 namespace sw {
 
@@ -21,6 +22,9 @@ struct PictureJob {
     std::string cssFile;
     std::string manifestFile;
 };
+
+// The HTML table, CSS page and manifest that were asked for, in that order.
+std::vector<std::string> SideFilesOf(const PictureJob& job);
 
 // Every file the job would write, pieces first.
 std::vector<std::string> FilesOf(const PictureJob& job);

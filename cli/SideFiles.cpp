@@ -25,16 +25,6 @@ void writeTextFile(const std::string& path, const std::string& text,
     written.push_back(path);
 }
 
-std::string manifestOf(const PictureJob& job) {
-    const ManifestSource source{job.picture,
-                                job.width,
-                                job.height,
-                                job.format,
-                                static_cast<i32>(job.layout.rowHeights.size()),
-                                job.plan.Columns};
-    return ManifestText(source, job.layout);
-}
-
 } // namespace
 
 void WriteSideFiles(const PictureJob& job, const SectionCells& cells,
@@ -47,7 +37,9 @@ void WriteSideFiles(const PictureJob& job, const SectionCells& cells,
                       CssPageText(job.layout, job.plan.Destination.BaseName, job.cssFile), written);
     }
     if (!job.manifestFile.empty()) {
-        writeTextFile(job.manifestFile, manifestOf(job), written);
+        writeTextFile(job.manifestFile,
+                      ManifestText({job.picture, job.width, job.height, job.format}, job.layout),
+                      written);
     }
 }
 

@@ -16,7 +16,7 @@ int main(int argc, char** argv) {
         return run.Run();
     } catch (const std::exception& error) {
         // Out of memory on a huge picture and the like: a message, never a crash.
-        std::cerr << "slicewright-cut: stopped: " << error.what() << "\n";
+        std::cerr << sw::kProgram << ": stopped: " << error.what() << "\n";
         return 1;
     }
 }

@@ -5,17 +5,16 @@
 #
 #   render-in-chromium.sh PAGE SHOT WIDTH HEIGHT MARGIN
 set -euo pipefail
+# shellcheck source=SCRIPTDIR/lib/checks.sh
+. "$(dirname "$0")/lib/checks.sh"
 
 page=$1
 shot=$2
 width=$3
 height=$4
 margin=$5
-chromium=/usr/bin/chromium
-convert=/usr/bin/convert
 
-[[ -x $chromium ]] || { echo "FAIL: $chromium is missing (package chromium)" >&2; exit 1; }
-[[ -x $convert ]] || { echo "FAIL: $convert is missing (package imagemagick)" >&2; exit 1; }
+need_tools "$chromium" "$convert"
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 "$chromium" --headless --no-sandbox --disable-gpu --disable-quic --no-first-run \
@@ -23,8 +22,5 @@ trap 'rm -rf "$work"' EXIT
     --user-data-dir="$work/profile" --hide-scrollbars --force-device-scale-factor=1 \
     --window-size=$((width + 2 * margin)),$((height + 2 * margin)) \
     --screenshot="$work/screen.png" "file://$page" > "$work/chromium.log" 2>&1 || true
-if [[ ! -s $work/screen.png ]]; then
-    echo "FAIL: chromium made no screenshot of $page: $(tail -3 "$work/chromium.log")" >&2
-    exit 1
-fi
+[[ -s $work/screen.png ]] || fail "chromium made no screenshot of $page: $(tail -3 "$work/chromium.log")"
 "$convert" "$work/screen.png" -crop "${width}x${height}+${margin}+${margin}" +repage "$shot"

@@ -2,10 +2,10 @@
 
 #include "common/FileWriteError.h"
 #include "common/RunInOrder.h"
-#include "export/ClipContainer.h"
 #include "export/HtmlTable.h"
 #include "export/SectionArea.h"
 #include "export/SectionEncoder.h"
+#include "imaging/ClipContainer.h"
 
 #include <exception>
 

@@ -5,18 +5,12 @@
 #include "imaging/PixelRows.h"
 #include "imaging/RandomSource.h"
 #include "imaging/SurfaceSize.h"
-#include "ports/Clipboard.h"
-#include "ports/MessageBoxes.h"
 
 #include <cstring>
 #include <new>
-#include <vector>
 
 namespace sw {
 namespace {
-
-constexpr const char* kNoDibOnClipboard =
-    "I don't know how to put a DIB on the clipboard! Copy as bitmap instead!!!";
 
 ConstPixelRows rowsOf(const Picture& picture) {
     if (picture.IsEmpty()) {
@@ -108,22 +102,6 @@ void cDIBSection::PaintPicture(cDIBSection& target, i32 lDestLeft, i32 lDestTop,
         rowsOf(target.bits_.get(), target.BytesPerScanLine(), target.Width(), target.Height()),
         lDestLeft, lDestTop, wholeIfNegative(lDestWidth, Width()),
         wholeIfNegative(lDestHeight, Height()));
-}
-
-bool cDIBSection::CopyToClipboard(Clipboard& clipboard, MessageBoxes& boxes,
-                                  const std::string& title, bool bAsDIB) const {
-    if (bAsDIB) {
-        boxes.Show({title, kNoDibOnClipboard, BoxIcon::None, BoxButtons::OK, BoxResult::OK});
-        return false;
-    }
-    if (bits_ == nullptr) {
-        return false;
-    }
-    // The clipboard keeps its own copy: the surface may change or go away.
-    const auto size = static_cast<std::size_t>(bitmapInfo_.biSizeImage);
-    std::vector<std::uint8_t> copy(bits_.get(), bits_.get() + size);
-    clipboard.Clear();
-    return clipboard.SetPicture(Picture::FromBottomUpBgr(Width(), Height(), std::move(copy)));
 }
 
 } // namespace sw

@@ -5,13 +5,10 @@
 
 #include <cstdint>
 #include <memory>
-#include <string>
 
 namespace sw {
 
-class Clipboard;
 class Clock;
-class MessageBoxes;
 class Picture;
 class RandomSource;
 
@@ -26,10 +23,6 @@ public:
     cDIBSection(const cDIBSection&) = delete;
     cDIBSection& operator=(const cDIBSection&) = delete;
 
-    // Puts the surface on the clipboard as a bitmap. A DIB is not offered:
-    // asking for one shows a message (titled `title`) and answers false.
-    bool CopyToClipboard(Clipboard& clipboard, MessageBoxes& boxes, const std::string& title,
-                         bool bAsDIB = true) const;
     // Fills the size record and allocates a buffer of that size. The size stays
     // recorded even when the buffer cannot be had; the answer is then false.
     bool CreateDIB(i32 lWidth, i32 lHeight);

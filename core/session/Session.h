@@ -1,6 +1,6 @@
 #pragma once
 
-#include "export/ClipContainer.h"
+#include "imaging/ClipContainer.h"
 #include "ports/Ports.h"
 #include "session/SessionState.h"
 

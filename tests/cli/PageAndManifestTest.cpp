@@ -44,11 +44,12 @@ TEST(CssPage, UrlPathsSurviveAnyName) {
 }
 
 TEST(Manifest, NamesEverySectionWithItsPlaceAndFile) {
-    const ManifestSource source{"in/a b.bmp", 300, 200, PieceFormat::Png, 3, 3};
+    const ManifestSource source{"in/a b.bmp", 300, 200, PieceFormat::Png};
     const auto json = nlohmann::json::parse(ManifestText(source, awkwardLayout()));
     EXPECT_EQ(json["picture"], "in/a b.bmp");
     EXPECT_EQ(json["format"], "png");
     EXPECT_EQ(json["rows"], 3);
+    EXPECT_EQ(json["columns"], 3);
     ASSERT_EQ(json["sections"].size(), 9u);
     const auto& eighth = json["sections"][7];
     EXPECT_EQ(eighth["number"], 8);
@@ -63,7 +64,7 @@ TEST(Manifest, NamesEverySectionWithItsPlaceAndFile) {
 }
 
 TEST(Manifest, BytesThatAreNoUtf8DoNotStopIt) {
-    const ManifestSource source{"bad\xFF.bmp", 1, 1, PieceFormat::Bmp, 1, 1};
+    const ManifestSource source{"bad\xFF.bmp", 1, 1, PieceFormat::Bmp};
     const auto plan = PlanPieces({}, 1, 1, {"", "bad\xFF", ".bmp"}, {});
     const std::string text = ManifestText(source, LayOutPieces(std::get<CutPlan>(plan), 1, 1));
     EXPECT_TRUE(nlohmann::json::accept(text));

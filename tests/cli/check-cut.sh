@@ -7,25 +7,19 @@
 #   check-cut.sh GROUP CUT RUNNER DATA WORKDIR
 set -euo pipefail
 
-render_page=$(cd "$(dirname "$0")/.." && pwd)/render-in-chromium.sh
+tests=$(cd "$(dirname "$0")/.." && pwd)
+# shellcheck source=SCRIPTDIR/../lib/checks.sh
+. "$tests/lib/checks.sh"
+# shellcheck source=SCRIPTDIR/../lib/window-script.sh
+. "$tests/lib/window-script.sh"
+render_page=$tests/render-in-chromium.sh
 group=$1
 cut=$2
 runner=$3
 data=$4
 work=$5
 
-convert=/usr/bin/convert
-compare=/usr/bin/compare
-identify=/usr/bin/identify
-jq=/usr/bin/jq
-
-fail() {
-    echo "FAIL: $*" >&2
-    exit 1
-}
-for tool in "$convert" "$compare" "$identify" "$jq"; do
-    [[ -x $tool ]] || fail "$tool is missing (packages imagemagick, jq)"
-done
+need_tools "$convert" "$compare" "$identify" "$jq"
 
 rm -rf "$work"
 mkdir -p "$work"
@@ -66,10 +60,8 @@ check_manifest() {
     while read -r number file; do
         local geometry
         geometry=$(geometry_of "$manifest" "$number")
-        "$convert" "$picture" -crop "$geometry" +repage crop.png
-        local differing
-        differing=$("$compare" -metric AE "$file" crop.png null: 2>&1 || true)
-        [[ $differing == 0 ]] || fail "$file differs from the crop $geometry in $differing pixels"
+        "$convert" "$picture" -crop "$geometry" +repage "crop-$geometry.png"
+        same_pixels "$file" "crop-$geometry.png"
         area=$((area + $("$identify" -format '%w*%h' "$file")))
     done < <("$jq" -r '.sections[] | select(.file != null) | "\(.number) \(.file)"' "$manifest")
     ((area == width * height)) || fail "$manifest: the pieces cover $area pixels, not $((width * height))"
@@ -79,19 +71,12 @@ check_manifest() {
 window_table() {
     local picture=$1 save=$2 hlines=$3 vlines=$4 empty_answer=${5:-}
     {
-        echo 'store HTMLOut "N"'
-        echo start
-        echo "answer open \"$picture\""
-        echo event mnuOPen_Click
-        echo event mnuHorizontalLine_Click
-        for y in $hlines; do printf 'event picActual_MouseMove %s %s\nevent picActual_Click\n' "$y" "$y"; done
-        echo event mnuVerticalLine_Click
-        for x in $vlines; do printf 'event picActual_MouseMove %s %s\nevent picActual_Click\n' "$x" "$x"; done
-        echo "answer save \"$save\""
-        [[ -n $empty_answer ]] && echo "answer box $empty_answer"
-        echo 'answer finish F'
-        echo 'answer box No'
-        echo event mnuCreate_Click
+        open_picture "$picture"
+        # shellcheck disable=SC2086
+        draw_lines Horizontal $hlines
+        # shellcheck disable=SC2086
+        draw_lines Vertical $vlines
+        export_to "$save" "$empty_answer"
     } > window.scn
     "$runner" window.scn > window.txt || fail "the scenario runner stopped: $(tail -3 window.txt)"
 }
@@ -99,12 +84,6 @@ window_table() {
 # render PAGE SHOT WIDTH HEIGHT MARGIN: the page as Chromium shows it, cut to the picture.
 render() {
     "$render_page" "$@" || fail "no rendering of $1"
-}
-
-same_pixels() {
-    local differing
-    differing=$("$compare" -metric AE "$1" "$2" null: 2>&1 || true)
-    [[ $differing == 0 ]] || fail "$1 differs from $2 in $differing pixels"
 }
 
 group_options() {
@@ -234,6 +213,13 @@ group_failures() {
         fail "refusal: $(cat err.txt)"
     grep -q "no file was written" err.txt || fail "refusal: $(cat err.txt)"
     [[ ! -e refused ]] || fail "a refused division wrote something"
+    # A page or manifest named like a piece, or like each other, would write
+    # over it: refused before anything is written.
+    expect 1 "$cut" plasma.bmp --grid 2x2 -o clash --html clash/plasma3.bmp
+    grep -q "clash/plasma3.bmp would be written twice" err.txt || fail "page over a piece: $(cat err.txt)"
+    expect 1 "$cut" plasma.bmp --grid 2x2 -o clash --css clash/t.html --manifest ./clash/t.html
+    grep -q "clash/t.html would be written twice" err.txt || fail "page over a manifest: $(cat err.txt)"
+    [[ ! -e clash ]] || fail "a run with a file named twice wrote something"
     # A corrupt line file: the window's words.
     printf '"H5"\r\ngarbage\r\n' > bad.ple
     expect 1 "$cut" plasma.bmp --lines bad.ple -o corrupt
@@ -253,6 +239,13 @@ group_failures() {
     grep -q "^  stuck/plasma2.png" err.txt || fail "written list: $(cat err.txt)"
     [[ -d stuck/plasma3.png && ! -e stuck/plasma4.png ]] || fail "the run went on after the failure"
     ls stuck | grep -qv '^plasma[123].png$' && fail "a temporary file stayed: $(ls stuck)"
+    # A check that fails: noise at quality 1 decodes some 10 dB from the
+    # picture, far below the floor of 20 dB; every piece is named, exit 1.
+    "$convert" -seed 3 -size 120x80 xc: +noise Random noise.bmp
+    expect 1 "$cut" noise.bmp --grid 2x2 -o lossy -f jpg -q 1 --verify
+    [[ $(grep -c "noise.bmp: verify: lossy/noise[1-4].jpg: PSNR [0-9]* dB, below the floor of 20 dB" err.txt) == 4 ]] ||
+        fail "a failed check: $(cat err.txt)"
+    grep -q "^  lossy/noise4.jpg" err.txt || fail "a failed check does not list the pieces: $(cat err.txt)"
     echo "failures checked"
 }
 
@@ -320,7 +313,7 @@ group_demo() {
     # JPEG pieces: the page must show the picture as the pieces decode.
     "$convert" photo.jpg demo-ref.png
     local db
-    db=$("$compare" -metric PSNR demo.png demo-ref.png null: 2>&1 || true)
+    db=$(psnr_db demo.png demo-ref.png)
     awk -v db="$db" 'BEGIN { exit !(db == "inf" || db >= 30) }' || fail "the page shows the picture at $db dB"
     echo "the README's example works"
 }

@@ -1,10 +1,10 @@
 #include "export/SectionWriter.h"
 
 #include "common/FileWriteError.h"
-#include "export/ClipContainer.h"
 #include "export/HtmlTable.h"
 #include "export/ImagingSectionEncoder.h"
 #include "export/SectionGrid.h"
+#include "imaging/ClipContainer.h"
 #include "tests/export/RecordingEncoder.h"
 
 #include <filesystem>

@@ -9,28 +9,18 @@
 #   check-export-output.sh files|browser RUNNER PICTURE WORKDIR
 set -euo pipefail
 
-render_page=$(cd "$(dirname "$0")/.." && pwd)/render-in-chromium.sh
+tests=$(cd "$(dirname "$0")/.." && pwd)
+# shellcheck source=SCRIPTDIR/../lib/checks.sh
+. "$tests/lib/checks.sh"
+# shellcheck source=SCRIPTDIR/../lib/window-script.sh
+. "$tests/lib/window-script.sh"
+render_page=$tests/render-in-chromium.sh
 mode=$1
 runner=$2
 picture=$3
 work=$4
 
-convert=/usr/bin/convert
-compare=/usr/bin/compare
-identify=/usr/bin/identify
-chromium=/usr/bin/chromium
-
-fail() {
-    echo "FAIL: $*" >&2
-    exit 1
-}
-
-for tool in "$convert" "$compare" "$identify"; do
-    [[ -x $tool ]] || fail "$tool is missing (package imagemagick)"
-done
-if [[ $mode == browser ]]; then
-    [[ -x $chromium ]] || fail "$chromium is missing (package chromium)"
-fi
+need_tools "$convert" "$compare" "$identify"
 
 # The grid, uneven on purpose: columns of 13, 87, 122 and 78 pixels, rows of 37, 83 and 80.
 hlines=(37 120)
@@ -41,32 +31,9 @@ rm -rf "$work"
 mkdir -p "$work/bmp" "$work/jpg" "$work/degenerate"
 cd "$work"
 
-# draw_lines DIRECTION POSITIONS...: clicks on the picture in that draw mode.
-draw_lines() {
-    local direction=$1
-    shift
-    echo "event mnu${direction}Line_Click"
-    for position in "$@"; do
-        echo "event picActual_MouseMove $position $position"
-        echo event picActual_Click
-    done
-}
-
-# export_to NAME [ANSWER]: one run into NAME, the table in a file, the lines kept;
-# ANSWER goes to the question about sections without area.
-export_to() {
-    echo "answer save \"$1\""
-    [[ -n ${2:-} ]] && echo "answer box $2"
-    echo 'answer finish F'
-    echo 'answer box No'
-    echo event mnuCreate_Click
-}
-
+# The window's export with the red pen, so that a section drawn on would show.
 opening() {
-    echo 'store HTMLOut "N"'
-    echo start
-    echo "answer open \"$picture\""
-    echo event mnuOPen_Click
+    open_picture "$picture"
     echo event mnuRed_Click
 }
 
@@ -96,7 +63,7 @@ ys=(0 "${hlines[@]}" "$height")
 # PSNR of one picture against another in hundredths of a dB (99999 when equal).
 psnr() {
     local db
-    db=$("$compare" -metric PSNR "$1" "$2" null: 2>&1 || true)
+    db=$(psnr_db "$1" "$2")
     [[ $db == inf ]] && { echo 99999; return; }
     awk -v db="$db" 'BEGIN { printf "%d\n", db * 100 }'
 }
@@ -138,9 +105,7 @@ check_sections() {
             local size
             size=$("$identify" -format '%wx%h' "bmp/Tile$number.bmp") || fail "bmp/Tile$number.bmp does not decode"
             [[ $size == "${w}x${h}" ]] || fail "Tile$number.bmp is $size, not ${w}x${h}"
-            local differing
-            differing=$("$compare" -metric AE "bmp/Tile$number.bmp" "clean$number.png" null: 2>&1 || true)
-            [[ $differing == 0 ]] || fail "Tile$number.bmp differs from its rectangle in $differing pixels"
+            same_pixels "bmp/Tile$number.bmp" "clean$number.png"
             size=$("$identify" -format '%wx%h' "jpg/Tile$number.jpg") || fail "jpg/Tile$number.jpg does not decode"
             [[ $size == "${w}x${h}" ]] || fail "Tile$number.jpg is $size, not ${w}x${h}"
             check_jpg "jpg/Tile$number.jpg" "clean$number.png" "$x" "$y" "$w" "$h"
@@ -158,10 +123,8 @@ render_table() {
 
 check_browser() {
     for html in bmp/Tile.html degenerate/Tile.html; do
-        render_table "$html" shown.png
-        local differing
-        differing=$("$compare" -metric AE shown.png "$picture" null: 2>&1 || true)
-        [[ $differing == 0 ]] || fail "$html renders $differing pixels unlike the picture"
+        render_table "$html" "${html%.html}-shown.png"
+        same_pixels "${html%.html}-shown.png" "$picture"
         echo "$html renders the picture pixel for pixel"
     done
 }

@@ -1,8 +1,6 @@
 #include "imaging/Picture.h"
 #include "imaging/SurfaceSize.h"
 #include "imaging/cDIBSection.h"
-#include "ports/Clipboard.h"
-#include "ports/MessageBoxes.h"
 
 #include <climits>
 #include <cstring>
@@ -158,53 +156,6 @@ TEST(SurfaceBlits, PaintPictureCopiesIntoTheTargetAtItsPlace) {
     ASSERT_TRUE(copy.Create(3, 3));
     copy.LoadPictureBlt(source);
     EXPECT_EQ(std::memcmp(copy.DIBSectionBitsPtr(), source.DIBSectionBitsPtr(), 36), 0);
-}
-
-class RecordingClipboard : public Clipboard {
-public:
-    void Clear() override { ++clears; }
-    void SetText(const std::string&) override {}
-    bool SetPicture(const Picture& picture) override {
-        pictures.push_back(picture);
-        return true;
-    }
-    int clears = 0;
-    std::vector<Picture> pictures;
-};
-
-class RecordingBoxes : public MessageBoxes {
-public:
-    BoxResult Show(const BoxRequest& request) override {
-        shown.push_back(request);
-        return BoxResult::OK;
-    }
-    std::string InputBox(const std::string&, const std::string&, const std::string&) override {
-        return {};
-    }
-    std::vector<BoxRequest> shown;
-};
-
-TEST(SurfaceClipboard, ADibIsRefusedWithAMessageAndABitmapIsCopied) {
-    cDIBSection s;
-    s.CreateFromPicture(numberedPicture(3, 2));
-    RecordingClipboard clipboard;
-    RecordingBoxes boxes;
-
-    EXPECT_FALSE(s.CopyToClipboard(clipboard, boxes, "Slicewright"));
-    ASSERT_EQ(boxes.shown.size(), 1u);
-    EXPECT_EQ(boxes.shown[0].title, "Slicewright");
-    EXPECT_EQ(boxes.shown[0].text,
-              "I don't know how to put a DIB on the clipboard! Copy as bitmap instead!!!");
-    EXPECT_EQ(boxes.shown[0].icon, BoxIcon::None);
-    EXPECT_EQ(boxes.shown[0].buttons, BoxButtons::OK);
-    EXPECT_TRUE(clipboard.pictures.empty());
-    EXPECT_EQ(clipboard.clears, 0);
-
-    EXPECT_TRUE(s.CopyToClipboard(clipboard, boxes, "Slicewright", false));
-    ASSERT_EQ(clipboard.pictures.size(), 1u);
-    EXPECT_EQ(clipboard.pictures[0].PixelAt(2, 1), pixelOf(s, 2, 1));
-    s.ClearUp();
-    EXPECT_FALSE(s.CopyToClipboard(clipboard, boxes, "Slicewright", false));
 }
 
 } // namespace

@@ -1,17 +1,8 @@
 # Helpers of the install tests: failing loudly, a DESTDIR install of the build,
 # and driving the installed window under X with xdotool.
 
-fail() {
-    echo "FAIL: $*" >&2
-    exit 1
-}
-
-need_tools() {
-    local tool
-    for tool in "$@"; do
-        command -v "$tool" >/dev/null 2>&1 || fail "$tool is not installed (scripts/install-deps installs it)"
-    done
-}
+# shellcheck source=SCRIPTDIR/../lib/checks.sh
+. "$(dirname "${BASH_SOURCE[0]}")/../lib/checks.sh"
 
 # install_into BUILD_DIR DESTDIR: installs the build with the prefix /usr.
 install_into() {

@@ -1,4 +1,4 @@
-#include "export/ClipContainer.h"
+#include "imaging/ClipContainer.h"
 
 namespace sw {
 
