@@ -19,10 +19,11 @@ namespace detail {
 // taken last, so that a slow taker holds back memory, not the workers.
 template <typename Result> class OrderedJobs {
 public:
+    // A job's outcome: its result or its exception, or neither while it runs.
     struct Slot {
         std::optional<Result> result;
         std::exception_ptr error;
-        bool filled = false;
+        bool Filled() const { return result.has_value() || error != nullptr; }
     };
 
     OrderedJobs(std::size_t count, std::size_t window,
@@ -38,7 +39,6 @@ public:
             } catch (...) {
                 slot.error = std::current_exception();
             }
-            slot.filled = true;
             {
                 const std::lock_guard lock(mutex_);
                 slots_[*job % window_] = std::move(slot);
@@ -52,7 +52,7 @@ public:
     Slot Take(std::size_t index) {
         std::unique_lock lock(mutex_);
         Slot& place = slots_[index % window_];
-        ready_.wait(lock, [&] { return place.filled; });
+        ready_.wait(lock, [&] { return place.Filled(); });
         Slot slot = std::move(place);
         place = Slot{};
         taken_ = index + 1;

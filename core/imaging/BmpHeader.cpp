@@ -37,11 +37,6 @@ BmpHeaderRead refused(std::string problem) {
     return {std::nullopt, std::move(problem)};
 }
 
-bool readBytes(std::istream& file, std::uint8_t* into, std::size_t count) {
-    return static_cast<bool>(
-        file.read(reinterpret_cast<char*>(into), static_cast<std::streamsize>(count)));
-}
-
 // The OS/2 2.x headers give the compression numbers 3 and 4 other meanings
 // than the Windows ones; only the Windows headers have these sizes.
 bool isWindowsInfo(std::uint32_t infoSize) {
@@ -99,7 +94,7 @@ bool readTrailingMasks(std::istream& file, BmpHeader& h, std::uint32_t compressi
     }
     std::uint8_t bytes[16] = {};
     const std::size_t count = compression == AlphaBitFields ? 16 : 12;
-    if (!readBytes(file, bytes, count)) {
+    if (!ReadExactly(file, bytes, count)) {
         return false;
     }
     const Fields masks(bytes, count);
@@ -121,7 +116,7 @@ std::size_t paletteCount(const BmpHeader& h, std::uint32_t colorsUsed, std::uint
 
 bool readPalette(std::istream& file, BmpHeader& h, std::size_t count, std::size_t entrySize) {
     std::vector<std::uint8_t> bytes(count * entrySize);
-    if (!readBytes(file, bytes.data(), bytes.size())) {
+    if (!ReadExactly(file, bytes.data(), bytes.size())) {
         return false;
     }
     h.palette.resize(count);
@@ -138,7 +133,7 @@ bool readInfoFields(std::istream& file, BmpHeader& h, std::uint32_t& compression
     std::uint8_t bytes[kLargestKnownInfo] = {};
     const std::size_t stored = std::min<std::size_t>(h.infoSize, kLargestKnownInfo) - 4;
     const std::size_t skipped = h.infoSize - 4 - stored;
-    if (!readBytes(file, bytes + 4, stored) ||
+    if (!ReadExactly(file, bytes + 4, stored) ||
         file.ignore(static_cast<std::streamsize>(skipped)).gcount() !=
             static_cast<std::streamsize>(skipped)) {
         return false;
@@ -185,6 +180,11 @@ bool BmpHeader::HoldsEveryRow(std::uint64_t fileSize) const {
            (fileSize - pixelOffset) / rowBytes >= static_cast<std::uint64_t>(Rows());
 }
 
+bool ReadExactly(std::istream& file, std::uint8_t* into, std::size_t count) {
+    return static_cast<bool>(
+        file.read(reinterpret_cast<char*>(into), static_cast<std::streamsize>(count)));
+}
+
 bool StartsLikeBmp(std::istream& file) {
     char magic[2] = {};
     return file.read(magic, 2) && magic[0] == 'B' && magic[1] == 'M';
@@ -192,7 +192,7 @@ bool StartsLikeBmp(std::istream& file) {
 
 BmpHeaderRead ReadBmpHeader(std::istream& file) {
     std::uint8_t start[kFileHeaderSize + 4] = {};
-    if (!readBytes(file, start, sizeof start)) {
+    if (!ReadExactly(file, start, sizeof start)) {
         return refused(start[0] == 'B' && start[1] == 'M' ? kIncompleteFileProblem
                                                           : kNotAPictureProblem);
     }

@@ -50,6 +50,9 @@ struct BmpHeaderRead {
     std::string problem;
 };
 
+// Reads `count` bytes of the file; false when it ends before them.
+bool ReadExactly(std::istream& file, std::uint8_t* into, std::size_t count);
+
 // Whether the bytes begin the way every BMP file begins.
 bool StartsLikeBmp(std::istream& file);
 

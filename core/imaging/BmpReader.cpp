@@ -12,11 +12,6 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-bool readInto(std::istream& file, std::uint8_t* into, std::size_t count) {
-    return static_cast<bool>(
-        file.read(reinterpret_cast<char*>(into), static_cast<std::streamsize>(count)));
-}
-
 // Everything from the pixel offset to the end of the file.
 bool readRest(std::istream& file, std::uint32_t offset, Bytes& data) {
     file.seekg(0, std::ios::end);
@@ -26,7 +21,7 @@ bool readRest(std::istream& file, std::uint32_t offset, Bytes& data) {
     }
     data.resize(static_cast<std::size_t>(size - offset));
     file.seekg(offset);
-    return readInto(file, data.data(), data.size());
+    return ReadExactly(file, data.data(), data.size());
 }
 
 bool readRunLength(std::istream& file, const BmpHeader& header, Bytes& pixels, std::size_t stride) {
@@ -37,7 +32,7 @@ bool readRunLength(std::istream& file, const BmpHeader& header, Bytes& pixels, s
 
 // The stored rows straight into the picture, which keeps them the same way.
 bool readPlain(std::istream& file, Bytes& pixels) {
-    return readInto(file, pixels.data(), pixels.size());
+    return ReadExactly(file, pixels.data(), pixels.size());
 }
 
 bool readRows(std::istream& file, const BmpHeader& header, Bytes& pixels, std::size_t stride) {
@@ -45,7 +40,7 @@ bool readRows(std::istream& file, const BmpHeader& header, Bytes& pixels, std::s
     const auto rows = static_cast<std::size_t>(header.Rows());
     Bytes stored(static_cast<std::size_t>(header.RowBytes()));
     for (std::size_t i = 0; i < rows; ++i) {
-        if (!readInto(file, stored.data(), stored.size())) {
+        if (!ReadExactly(file, stored.data(), stored.size())) {
             return false;
         }
         const std::size_t bottomUp = header.TopDown() ? rows - 1 - i : i;

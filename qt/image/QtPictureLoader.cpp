@@ -4,9 +4,9 @@
 #include "imaging/JpegReader.h"
 #include "imaging/PictureLimits.h"
 #include "imaging/PictureProblems.h"
+#include "qt/image/HeldFile.h"
 #include "qt/image/PictureFileCheck.h"
 
-#include <QFileInfo>
 #include <QImage>
 #include <QImageReader>
 #include <cstring>
@@ -22,23 +22,6 @@ LoadedPicture failure(std::string reason) {
     return result;
 }
 
-// Why the file cannot even be handed to a decoder, if it cannot.
-std::optional<std::string> fileProblem(const QFileInfo& file) {
-    if (!file.exists()) {
-        return "the file does not exist";
-    }
-    if (file.isDir()) {
-        return "it is a folder, not a picture file";
-    }
-    if (!file.isReadable()) {
-        return "the file cannot be read (permission denied)";
-    }
-    if (file.size() == 0) {
-        return "the file is empty";
-    }
-    return std::nullopt;
-}
-
 std::optional<std::string> sizeProblem(QSize size) {
     if (!size.isValid() || size.isEmpty()) {
         return kNotAPictureProblem;
@@ -49,7 +32,7 @@ std::optional<std::string> sizeProblem(QSize size) {
 // Qt refuses to allocate images beyond a global limit; it must admit every
 // picture that passed the size check above, and no more.
 void allowPicturesUpToTheBudget() {
-    constexpr std::int64_t megabytes = QtPictureLoader::kMaxPixels * 4 / (1024 * 1024) + 1;
+    constexpr std::int64_t megabytes = kMaxPicturePixels * 4 / (1024 * 1024) + 1;
     QImageReader::setAllocationLimit(static_cast<int>(megabytes));
 }
 
@@ -89,7 +72,7 @@ LoadedPicture loadBmp(const std::string& path) {
 std::optional<LoadedPicture> loadJpeg(const std::string& path) {
     JpegReader reader(path);
     if (!reader.HeaderRead()) {
-        return failure(*sizeProblem(QSize()));
+        return failure(kNotAPictureProblem);
     }
     if (const std::optional<std::string> problem =
             sizeProblem(QSize(reader.Width(), reader.Height()))) {
@@ -111,23 +94,10 @@ std::optional<LoadedPicture> loadJpeg(const std::string& path) {
     return result;
 }
 
-} // namespace
-
-LoadedPicture QtPictureLoader::LoadPicture(const std::string& path) {
-    const QString name = QString::fromStdString(path);
-    if (const std::optional<std::string> problem = fileProblem(QFileInfo(name))) {
-        return failure(*problem);
-    }
-    if (IsBmpFile(path)) {
-        return loadBmp(path);
-    }
-    if (JpegReader::IsJpeg(path)) {
-        if (std::optional<LoadedPicture> loaded = loadJpeg(path)) {
-            return std::move(*loaded);
-        }
-    }
+// GIF files, CMYK JPG files and whatever else Qt's readers recognise.
+LoadedPicture loadWithQt(const std::string& path) {
     allowPicturesUpToTheBudget();
-    QImageReader reader(name);
+    QImageReader reader(QString::fromStdString(path));
     reader.setAutoTransform(false);
     if (const std::optional<std::string> problem = sizeProblem(reader.size())) {
         return failure(*problem);
@@ -154,6 +124,25 @@ LoadedPicture QtPictureLoader::LoadPicture(const std::string& path) {
     LoadedPicture result;
     result.picture = toPicture(std::move(decoded));
     return result;
+}
+
+} // namespace
+
+LoadedPicture QtPictureLoader::LoadPicture(const std::string& path) {
+    const HeldFile file(path);
+    if (file.Problem()) {
+        return failure(*file.Problem());
+    }
+    const std::string& source = file.Path();
+    if (IsBmpFile(source)) {
+        return loadBmp(source);
+    }
+    if (JpegReader::IsJpeg(source)) {
+        if (std::optional<LoadedPicture> loaded = loadJpeg(source)) {
+            return std::move(*loaded);
+        }
+    }
+    return loadWithQt(source);
 }
 
 } // namespace sw

@@ -34,26 +34,12 @@ void PrintTo(const CorpusCase& c, std::ostream* out) {
     *out << c.kind.name;
 }
 
-int largestDifference(const Picture& ours, const test::RgbImage& theirs) {
-    int largest = 0;
-    for (int y = 0; y < ours.Height(); ++y) {
-        for (int x = 0; x < ours.Width(); ++x) {
-            const std::uint32_t bgr = ours.PixelAt(x, y);
-            for (int c = 0; c < 3; ++c) {
-                const int mine = static_cast<int>((bgr >> (8 * c)) & 0xFF);
-                largest = std::max(largest, std::abs(mine - theirs.At(x, y)[c]));
-            }
-        }
-    }
-    return largest;
-}
-
 class BmpCorpus : public testing::TestWithParam<CorpusCase> {};
 
 void expectAgreement(const Picture& ours, const test::RgbImage& theirs, int tolerance) {
     ASSERT_EQ(ours.Width(), theirs.width);
     ASSERT_EQ(ours.Height(), theirs.height);
-    EXPECT_LE(largestDifference(ours, theirs), tolerance);
+    EXPECT_LE(test::LargestDifference(ours, theirs), tolerance);
 }
 
 TEST_P(BmpCorpus, OpensAsImageMagickSeesIt) {

@@ -6,6 +6,7 @@
 #include "imaging/PictureLimits.h"
 #include "imaging/PictureProblems.h"
 #include "tests/imaging/BmpMaker.h"
+#include "tests/imaging/FileCase.h"
 
 #include <gtest/gtest.h>
 #include <limits>
@@ -16,6 +17,7 @@ namespace {
 
 using test::BmpHeaders;
 using test::Bytes;
+using test::FileCase;
 using test::PutLittleEndian;
 
 std::istringstream streamOf(const Bytes& bytes) {
@@ -44,20 +46,14 @@ Bytes withPixels(Bytes bytes, std::size_t count, std::uint8_t value = 0x40) {
     return bytes;
 }
 
-const std::string kUnreadableBits =
-    "the BMP file stores its pixels in a way this program cannot read (";
-
-struct HostileHeader {
-    std::string name;
-    Bytes bytes;
-    std::string problem;
-};
-
-void PrintTo(const HostileHeader& h, std::ostream* out) {
-    *out << h.name;
+// A header whose pair of bit count and compression no BMP this program
+// reads has, refused with `cause`.
+FileCase unreadableKind(std::string name, const Bytes& bytes, const std::string& cause) {
+    return {std::move(name), bytes,
+            "the BMP file stores its pixels in a way this program cannot read (" + cause + ")"};
 }
 
-class BmpHeaderRefuses : public testing::TestWithParam<HostileHeader> {};
+class BmpHeaderRefuses : public testing::TestWithParam<FileCase> {};
 
 TEST_P(BmpHeaderRefuses, WithItsCause) {
     const BmpHeaderRead read = headerOf(GetParam().bytes);
@@ -70,49 +66,42 @@ const Bytes kPlain = BmpHeaders(4, 4, 24, 0, 0, 64);
 INSTANTIATE_TEST_SUITE_P(
     Headers, BmpHeaderRefuses,
     testing::Values(
-        HostileHeader{"only_the_magic", {'B', 'M'}, kIncompleteFileProblem},
-        HostileHeader{"other_magic", withField(kPlain, 0, 'P' | 'K' << 8, 2), kNotAPictureProblem},
-        HostileHeader{"info_size_0", withField(kPlain, 14, 0),
-                      "the BMP header is damaged: no kind of BMP has an info header of 0 bytes"},
-        HostileHeader{"info_size_13", withField(kPlain, 14, 13),
-                      "the BMP header is damaged: no kind of BMP has an info header of 13 bytes"},
-        HostileHeader{"info_size_4g", withField(kPlain, 14, 0xFFFFFFFF),
-                      "the BMP header is damaged: no kind of BMP has an info header of "
-                      "4294967295 bytes"},
-        HostileHeader{"info_cut_short", Bytes(kPlain.begin(), kPlain.begin() + 30),
-                      kIncompleteFileProblem},
-        HostileHeader{"info_larger_than_file", withField(kPlain, 14, 4000), kIncompleteFileProblem},
-        HostileHeader{"negative_width", BmpHeaders(-4, 4, 24, 0, 0, 64),
-                      "the BMP header is damaged: it gives a negative width"},
-        HostileHeader{"most_negative_width",
-                      BmpHeaders(std::numeric_limits<std::int32_t>::min(), 4, 24, 0, 0, 64),
-                      "the BMP header is damaged: it gives a negative width"},
-        HostileHeader{"zero_height", BmpHeaders(4, 0, 24, 0, 0, 64),
-                      "the BMP header is damaged: it gives a width or height of 0"},
-        HostileHeader{"zero_bits", BmpHeaders(4, 4, 0, 0, 0, 64),
-                      kUnreadableBits + "0 bits a pixel)"},
-        HostileHeader{"two_bits", BmpHeaders(4, 4, 2, 0, 0, 64),
-                      kUnreadableBits + "2 bits a pixel)"},
-        HostileHeader{"64_bits", BmpHeaders(4, 4, 64, 0, 0, 64),
-                      kUnreadableBits + "64 bits a pixel)"},
-        HostileHeader{"embedded_jpeg", BmpHeaders(4, 4, 0, 4, 0, 64),
-                      kUnreadableBits + "compression 4)"},
-        HostileHeader{"embedded_png", BmpHeaders(4, 4, 0, 5, 0, 64),
-                      kUnreadableBits + "compression 5)"},
-        HostileHeader{"fields_on_24_bits", BmpHeaders(4, 4, 24, 3, 0, 64),
-                      kUnreadableBits + "compression 3)"},
-        HostileHeader{"rle8_on_4_bits", BmpHeaders(4, 4, 4, 1, 64, 64),
-                      kUnreadableBits + "compression 1)"},
-        HostileHeader{"os2_huffman",
-                      withField(withPixels(BmpHeaders(4, 4, 16, 3, 0, 64), 64), 14, 64),
-                      kUnreadableBits + "compression 3)"},
-        HostileHeader{"rle8_top_down", BmpHeaders(4, -4, 8, 1, 1024, 8),
-                      "the BMP header is damaged: run-length pixels cannot run from the top down"},
-        HostileHeader{"palette_cut_short", BmpHeaders(4, 4, 8, 0, 1024, 0), kIncompleteFileProblem},
-        HostileHeader{"no_room_for_a_palette", withPixels(BmpHeaders(4, 4, 8, 0, 0, 16), 16),
-                      "the BMP file is damaged: its picture needs colours, and it has none"},
-        HostileHeader{"masks_cut_short", BmpHeaders(4, 4, 16, 3, 0, 0), kIncompleteFileProblem}),
-    [](const testing::TestParamInfo<HostileHeader>& testCase) { return testCase.param.name; });
+        FileCase{"only_the_magic", {'B', 'M'}, kIncompleteFileProblem},
+        FileCase{"other_magic", withField(kPlain, 0, 'P' | 'K' << 8, 2), kNotAPictureProblem},
+        FileCase{"info_size_0", withField(kPlain, 14, 0),
+                 "the BMP header is damaged: no kind of BMP has an info header of 0 bytes"},
+        FileCase{"info_size_13", withField(kPlain, 14, 13),
+                 "the BMP header is damaged: no kind of BMP has an info header of 13 bytes"},
+        FileCase{"info_size_4g", withField(kPlain, 14, 0xFFFFFFFF),
+                 "the BMP header is damaged: no kind of BMP has an info header of "
+                 "4294967295 bytes"},
+        FileCase{"info_cut_short", Bytes(kPlain.begin(), kPlain.begin() + 30),
+                 kIncompleteFileProblem},
+        FileCase{"info_larger_than_file", withField(kPlain, 14, 4000), kIncompleteFileProblem},
+        FileCase{"negative_width", BmpHeaders(-4, 4, 24, 0, 0, 64),
+                 "the BMP header is damaged: it gives a negative width"},
+        FileCase{"most_negative_width",
+                 BmpHeaders(std::numeric_limits<std::int32_t>::min(), 4, 24, 0, 0, 64),
+                 "the BMP header is damaged: it gives a negative width"},
+        FileCase{"zero_height", BmpHeaders(4, 0, 24, 0, 0, 64),
+                 "the BMP header is damaged: it gives a width or height of 0"},
+        unreadableKind("zero_bits", BmpHeaders(4, 4, 0, 0, 0, 64), "0 bits a pixel"),
+        unreadableKind("two_bits", BmpHeaders(4, 4, 2, 0, 0, 64), "2 bits a pixel"),
+        unreadableKind("64_bits", BmpHeaders(4, 4, 64, 0, 0, 64), "64 bits a pixel"),
+        unreadableKind("embedded_jpeg", BmpHeaders(4, 4, 0, 4, 0, 64), "compression 4"),
+        unreadableKind("embedded_png", BmpHeaders(4, 4, 0, 5, 0, 64), "compression 5"),
+        unreadableKind("fields_on_24_bits", BmpHeaders(4, 4, 24, 3, 0, 64), "compression 3"),
+        unreadableKind("rle8_on_4_bits", BmpHeaders(4, 4, 4, 1, 64, 64), "compression 1"),
+        unreadableKind("os2_huffman",
+                       withField(withPixels(BmpHeaders(4, 4, 16, 3, 0, 64), 64), 14, 64),
+                       "compression 3"),
+        FileCase{"rle8_top_down", BmpHeaders(4, -4, 8, 1, 1024, 8),
+                 "the BMP header is damaged: run-length pixels cannot run from the top down"},
+        FileCase{"palette_cut_short", BmpHeaders(4, 4, 8, 0, 1024, 0), kIncompleteFileProblem},
+        FileCase{"no_room_for_a_palette", withPixels(BmpHeaders(4, 4, 8, 0, 0, 16), 16),
+                 "the BMP file is damaged: its picture needs colours, and it has none"},
+        FileCase{"masks_cut_short", BmpHeaders(4, 4, 16, 3, 0, 0), kIncompleteFileProblem}),
+    test::NameOfRow());
 
 TEST(BmpHeader, RowCountsOfAnyHeaderNeitherOverflowNorPass) {
     BmpHeader h;
@@ -197,7 +186,7 @@ INSTANTIATE_TEST_SUITE_P(
                              "direction can be opened"},
                     SizeCase{"too_many_pixels", 11586, 11586,
                              "the picture is 11586 x 11586 pixels, too large to open"}),
-    [](const testing::TestParamInfo<SizeCase>& testCase) { return testCase.param.name; });
+    test::NameOfRow());
 
 TEST(PictureSizeLimits, PixelBudgetHoldsOnBothSides) {
     EXPECT_FALSE(PictureSizeProblem(kMaxPictureSide, kMaxPicturePixels / kMaxPictureSide));

@@ -3,11 +3,11 @@
 // any large block of memory is taken.
 #include "qt/image/QtPictureLoader.h"
 #include "tests/imaging/BmpMaker.h"
+#include "tests/imaging/FileCase.h"
 #include "tests/imaging/ImageMagick.h"
 #include "tests/imaging/LargestAllocation.h"
 #include "tests/imaging/TestPictures.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -75,17 +75,7 @@ Bytes rleBmpClaiming(int width, int height) {
     return bytes;
 }
 
-struct Hostile {
-    std::string name;
-    Bytes bytes;
-    std::string problem;
-};
-
-void PrintTo(const Hostile& h, std::ostream* out) {
-    *out << h.name;
-}
-
-class HostilePicture : public testing::TestWithParam<Hostile> {};
+class HostilePicture : public testing::TestWithParam<test::FileCase> {};
 
 TEST_P(HostilePicture, IsRefusedBeforeAnyLargeAllocation) {
     const test::ScratchFolder folder;
@@ -116,20 +106,17 @@ TEST(HostilePictureGuards, SeeAPictureThatOpens) {
 INSTANTIATE_TEST_SUITE_P(
     Claims, HostilePicture,
     testing::Values(
-        Hostile{"huge.bmp", test::BmpHeaders(60000, 60000, 24, 0, 0, 0), tooLarge(60000, 60000)},
-        Hostile{"huge_rle.bmp", rleBmpClaiming(60000, 60000), tooLarge(60000, 60000)},
-        Hostile{"bomb_rle.bmp", rleBmpClaiming(32767, 4097), tooManyPixels(32767, 4097)},
-        Hostile{"huge.gif", gifClaiming(60000, 60000), tooLarge(60000, 60000)},
-        Hostile{"bomb.gif", gifClaiming(32767, 4097), tooManyPixels(32767, 4097)},
-        Hostile{"huge.jpg", jpegClaiming(60000, 60000), tooLarge(60000, 60000)},
-        Hostile{"bomb.jpg", jpegClaiming(32767, 4097), tooManyPixels(32767, 4097)},
-        Hostile{"too_tall.jpg", jpegClaiming(10, 40000), tooLarge(10, 40000)},
-        Hostile{"too_wide.gif", gifClaiming(40000, 10), tooLarge(40000, 10)}),
-    [](const testing::TestParamInfo<Hostile>& testCase) {
-        std::string name = testCase.param.name;
-        std::replace(name.begin(), name.end(), '.', '_');
-        return name;
-    });
+        test::FileCase{"huge.bmp", test::BmpHeaders(60000, 60000, 24, 0, 0, 0),
+                       tooLarge(60000, 60000)},
+        test::FileCase{"huge_rle.bmp", rleBmpClaiming(60000, 60000), tooLarge(60000, 60000)},
+        test::FileCase{"bomb_rle.bmp", rleBmpClaiming(32767, 4097), tooManyPixels(32767, 4097)},
+        test::FileCase{"huge.gif", gifClaiming(60000, 60000), tooLarge(60000, 60000)},
+        test::FileCase{"bomb.gif", gifClaiming(32767, 4097), tooManyPixels(32767, 4097)},
+        test::FileCase{"huge.jpg", jpegClaiming(60000, 60000), tooLarge(60000, 60000)},
+        test::FileCase{"bomb.jpg", jpegClaiming(32767, 4097), tooManyPixels(32767, 4097)},
+        test::FileCase{"too_tall.jpg", jpegClaiming(10, 40000), tooLarge(10, 40000)},
+        test::FileCase{"too_wide.gif", gifClaiming(40000, 10), tooLarge(40000, 10)}),
+    test::NameOfRow());
 
 // What a file holds decides how it is read, not what its name ends in; a
 // file that is no picture is refused whatever its name says.

@@ -1,7 +1,9 @@
 #include "tests/imaging/ImageMagick.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <sstream>
 #include <stdexcept>
@@ -45,6 +47,20 @@ RgbImage parsePpm(const std::string& data) {
 }
 
 } // namespace
+
+int LargestDifference(const Picture& ours, const RgbImage& theirs) {
+    int largest = 0;
+    for (int y = 0; y < ours.Height(); ++y) {
+        for (int x = 0; x < ours.Width(); ++x) {
+            const std::uint32_t bgr = ours.PixelAt(x, y);
+            for (int c = 0; c < 3; ++c) {
+                const int mine = static_cast<int>((bgr >> (8 * c)) & 0xFF);
+                largest = std::max(largest, std::abs(mine - theirs.At(x, y)[c]));
+            }
+        }
+    }
+    return largest;
+}
 
 std::string RunCommand(const std::string& command) {
     std::unique_ptr<FILE, PipeCloser> pipe(::popen(command.c_str(), "r"));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "imaging/Picture.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -16,6 +18,10 @@ struct RgbImage {
         return rgb.data() + 3 * (static_cast<std::size_t>(y) * width + x);
     }
 };
+
+// The largest difference, in steps of one channel, between our picture and
+// the same pixels decoded elsewhere; the sizes must agree.
+int LargestDifference(const Picture& ours, const RgbImage& theirs);
 
 // Runs a shell command; throws when it cannot run or does not end with 0.
 std::string RunCommand(const std::string& command);

@@ -1,6 +1,7 @@
 #include "common/Types.h"
 #include "qt/image/QtPictureLoader.h"
 #include "tests/imaging/BmpMaker.h"
+#include "tests/imaging/FileCase.h"
 #include "tests/imaging/ImageMagick.h"
 #include "tests/imaging/TestPictures.h"
 
@@ -19,20 +20,6 @@ using test::BmpHeaders;
 using test::Bytes;
 using test::ReadBytes;
 using test::WriteBytes;
-
-int largestDifference(const Picture& ours, const test::RgbImage& theirs) {
-    int largest = 0;
-    for (int y = 0; y < ours.Height(); ++y) {
-        for (int x = 0; x < ours.Width(); ++x) {
-            const Color bgr = ours.PixelAt(x, y);
-            for (int c = 0; c < 3; ++c) {
-                largest =
-                    std::max(largest, std::abs(int((bgr >> (8 * c)) & 0xFF) - theirs.At(x, y)[c]));
-            }
-        }
-    }
-    return largest;
-}
 
 struct DecodeCase {
     std::string name;
@@ -73,7 +60,7 @@ TEST_P(LoaderAgreesWithImageMagick, PixelForPixel) {
     const test::RgbImage reference = test::DecodeWithImageMagick(path + c.frame);
     ASSERT_EQ(loaded.picture.Width(), reference.width);
     ASSERT_EQ(loaded.picture.Height(), reference.height);
-    EXPECT_LE(largestDifference(loaded.picture, reference), c.tolerance);
+    EXPECT_LE(test::LargestDifference(loaded.picture, reference), c.tolerance);
 }
 
 const std::string kProjectData = SLICEWRIGHT_TEST_DATA;
@@ -99,34 +86,25 @@ INSTANTIATE_TEST_SUITE_P(
         DecodeCase{"cmyk.jpg", convertRose("-colorspace CMYK"), 3, ""},
         DecodeCase{"animation.gif", convertRose("\\( rose: -negate \\) -loop 0"), 0, "[0]"},
         DecodeCase{"outside.gif", convertFile("'" + kProjectData + "/cmake-logo.gif'"), 0, ""}),
-    [](const testing::TestParamInfo<DecodeCase>& testCase) {
-        std::string name = testCase.param.name;
-        std::replace(name.begin(), name.end(), '.', '_');
-        return name;
-    });
+    test::NameOfRow());
 
-struct BadFile {
-    std::string name;
-    Bytes contents; // empty with `exists` false: no file at all
-    bool exists;
-    std::string error;
-};
-
-void PrintTo(const BadFile& bad, std::ostream* out) {
-    *out << bad.name;
-}
-
-class LoaderRefuses : public testing::TestWithParam<BadFile> {};
+class LoaderRefuses : public testing::TestWithParam<test::FileCase> {};
 
 TEST_P(LoaderRefuses, WithAReasonInPlainWords) {
     const test::ScratchFolder folder;
-    const BadFile& bad = GetParam();
-    if (bad.exists) {
-        WriteBytes(folder.Path(bad.name), bad.contents);
-    }
+    const test::FileCase& bad = GetParam();
+    WriteBytes(folder.Path(bad.name), bad.bytes);
     const LoadedPicture loaded = QtPictureLoader().LoadPicture(folder.Path(bad.name));
-    EXPECT_EQ(loaded.error, bad.error);
+    EXPECT_EQ(loaded.error, bad.problem);
     EXPECT_TRUE(loaded.picture.IsEmpty());
+}
+
+TEST(LoaderRefusesWhatIsNoFile, WithAReasonInPlainWords) {
+    const test::ScratchFolder folder;
+    EXPECT_EQ(QtPictureLoader().LoadPicture(folder.Path("missing.bmp")).error,
+              "the file does not exist");
+    EXPECT_EQ(QtPictureLoader().LoadPicture(folder.Path()).error,
+              "it is a folder, not a picture file");
 }
 
 // The first half of ImageMagick's sample picture in the kind that `name` ends in.
@@ -160,29 +138,25 @@ const std::string kCutOff = "the file is incomplete: it ends before the picture 
 INSTANTIATE_TEST_SUITE_P(
     Unreadable, LoaderRefuses,
     testing::Values(
-        BadFile{"missing.bmp", {}, false, "the file does not exist"},
-        BadFile{"empty.jpg", {}, true, "the file is empty"},
-        BadFile{"text.jpg", {'h', 'e', 'l', 'l', 'o', '\n'}, true, kNotAPicture},
-        BadFile{"cut.jpg", firstHalfOf("whole.jpg"), true, kCutOff},
-        BadFile{"cut.gif", firstHalfOf("whole.gif"), true, kCutOff},
-        BadFile{"cut.bmp", cutBmp(), true, kCutOff},
-        BadFile{"wide.bmp", BmpHeaders(40000, 10, 24, 0, 0, 0), true,
-                "the picture is 40000 x 10 pixels; at most 32767 pixels in either direction "
-                "can be opened"},
-        BadFile{"huge.bmp", BmpHeaders(30000, 30000, 24, 0, 0, 0), true,
-                "the picture is 30000 x 30000 pixels, too large to open"},
+        test::FileCase{"empty.jpg", {}, "the file is empty"},
+        test::FileCase{"text.jpg", {'h', 'e', 'l', 'l', 'o', '\n'}, kNotAPicture},
+        test::FileCase{"cut.jpg", firstHalfOf("whole.jpg"), kCutOff},
+        test::FileCase{"cut.gif", firstHalfOf("whole.gif"), kCutOff},
+        test::FileCase{"cut.bmp", cutBmp(), kCutOff},
+        test::FileCase{"wide.bmp", BmpHeaders(40000, 10, 24, 0, 0, 0),
+                       "the picture is 40000 x 10 pixels; at most 32767 pixels in either direction "
+                       "can be opened"},
+        test::FileCase{"huge.bmp", BmpHeaders(30000, 30000, 24, 0, 0, 0),
+                       "the picture is 30000 x 30000 pixels, too large to open"},
         // Found by fuzzing: Qt's reader gives the frame's size and decodes into the screen's.
-        BadFile{"wide_screen.gif", gifWithScreen(65507, 16), true,
-                "the picture is 65507 x 16 pixels; at most 32767 pixels in either direction "
-                "can be opened"},
-        BadFile{"huge_screen.gif", gifWithScreen(60000, 60000), true,
-                "the picture is 60000 x 60000 pixels; at most 32767 pixels in either direction "
-                "can be opened"}),
-    [](const testing::TestParamInfo<BadFile>& testCase) {
-        std::string name = testCase.param.name;
-        std::replace(name.begin(), name.end(), '.', '_');
-        return name;
-    });
+        test::FileCase{"wide_screen.gif", gifWithScreen(65507, 16),
+                       "the picture is 65507 x 16 pixels; at most 32767 pixels in either direction "
+                       "can be opened"},
+        test::FileCase{
+            "huge_screen.gif", gifWithScreen(60000, 60000),
+            "the picture is 60000 x 60000 pixels; at most 32767 pixels in either direction "
+            "can be opened"}),
+    test::NameOfRow());
 
 TEST(LoaderOnTheOffscreenPlatform, DecodesWithAGuiApplicationToo) {
     ::setenv("QT_QPA_PLATFORM", "offscreen", 1);

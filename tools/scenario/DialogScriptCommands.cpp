@@ -3,6 +3,7 @@
 #include "common/AtomicFile.h"
 #include "common/QuotedText.h"
 #include "tools/scenario/ScenarioRunner.h"
+#include "tools/scenario/ScriptTokens.h"
 #include "tools/scenario/SessionStateDump.h"
 
 #include <algorithm>
@@ -15,12 +16,6 @@ namespace sw::scripted {
 namespace {
 
 using Words = ScenarioRunner::Words;
-
-void expectCount(const Words& words, std::size_t count, const char* usage) {
-    if (words.size() != count) {
-        throw ScriptError(std::string("usage: ") + usage);
-    }
-}
 
 std::string littleEndianBytes(const std::string& number) {
     char* end = nullptr;
@@ -47,12 +42,12 @@ RegistryValue registryValue(const std::string& type, const std::string& data) {
 }
 
 void presetRegistry(ScenarioRunner& r, const Words& w) {
-    expectCount(w, 5, "registry \"ROOT/KEY\" \"NAME\" sz|dword VALUE");
+    ExpectWords(w, 5, "registry \"ROOT/KEY\" \"NAME\" sz|dword VALUE");
     r.Ports().registry.Preset(w[1], w[2], registryValue(w[3], w[4]));
 }
 
 void writeFile(ScenarioRunner&, const Words& w) {
-    expectCount(w, 3, "file \"PATH\" \"BYTES\"");
+    ExpectWords(w, 3, "file \"PATH\" \"BYTES\"");
     std::ofstream out(w[1], std::ios::binary | std::ios::trunc);
     out << w[2];
     if (!out) {
@@ -61,7 +56,7 @@ void writeFile(ScenarioRunner&, const Words& w) {
 }
 
 void printBytes(ScenarioRunner& r, const Words& w) {
-    expectCount(w, 2, "bytes \"PATH\"");
+    ExpectWords(w, 2, "bytes \"PATH\"");
     std::string contents;
     std::string reason;
     if (!ReadWholeFile(w[1], contents, reason)) {
@@ -97,15 +92,15 @@ void printFields(ScenarioRunner& r, const Words& w) {
 void AddDialogCommands(ScenarioRunner& runner) {
     runner.AddCommand("registry", presetRegistry);
     runner.AddCommand("sysinfo", [](ScenarioRunner& r, const Words& w) {
-        expectCount(w, 2, "sysinfo \"PATH\"");
+        ExpectWords(w, 2, "sysinfo \"PATH\"");
         r.Ports().sysInfo.SetFound(w[1]);
     });
     runner.AddCommand("program", [](ScenarioRunner& r, const Words& w) {
-        expectCount(w, 2, "program \"PATH\"");
+        ExpectWords(w, 2, "program \"PATH\"");
         r.Ports().sysInfo.AddStartable(w[1]);
     });
     runner.AddCommand("folder", [](ScenarioRunner&, const Words& w) {
-        expectCount(w, 2, "folder \"PATH\"");
+        ExpectWords(w, 2, "folder \"PATH\"");
         std::filesystem::create_directories(w[1]);
     });
     runner.AddCommand("file", writeFile);

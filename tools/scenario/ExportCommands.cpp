@@ -4,6 +4,7 @@
 #include "common/QuotedText.h"
 #include "common/Text.h"
 #include "tools/scenario/ScenarioRunner.h"
+#include "tools/scenario/ScriptTokens.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -15,14 +16,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void expectArguments(const ScenarioRunner::Words& words, std::size_t count, const char* usage) {
-    if (words.size() != count + 1) {
-        throw ScriptError(std::string("usage: ") + usage);
-    }
-}
-
 void makeFolder(ScenarioRunner&, const ScenarioRunner::Words& w) {
-    expectArguments(w, 1, "folder \"path\"");
+    ExpectWords(w, 2, "folder \"path\"");
     std::error_code error;
     fs::create_directories(w[1], error);
     if (error) {
@@ -31,7 +26,7 @@ void makeFolder(ScenarioRunner&, const ScenarioRunner::Words& w) {
 }
 
 void makeFile(ScenarioRunner&, const ScenarioRunner::Words& w) {
-    expectArguments(w, 2, "file \"path\" \"text\"");
+    ExpectWords(w, 3, "file \"path\" \"text\"");
     std::ofstream out(w[1], std::ios::binary | std::ios::trunc);
     out << w[2];
     if (!out) {
@@ -42,7 +37,7 @@ void makeFile(ScenarioRunner&, const ScenarioRunner::Words& w) {
 // Stands a copy of a file where the script wants it, for a picture the
 // script later removes or replaces while the program holds it open.
 void copyFile(ScenarioRunner&, const ScenarioRunner::Words& w) {
-    expectArguments(w, 2, "copy \"from\" \"to\"");
+    ExpectWords(w, 3, "copy \"from\" \"to\"");
     std::error_code error;
     fs::copy_file(w[1], w[2], fs::copy_options::overwrite_existing, error);
     if (error) {
@@ -51,7 +46,7 @@ void copyFile(ScenarioRunner&, const ScenarioRunner::Words& w) {
 }
 
 void removeFile(ScenarioRunner&, const ScenarioRunner::Words& w) {
-    expectArguments(w, 1, "remove \"path\"");
+    ExpectWords(w, 2, "remove \"path\"");
     std::error_code error;
     if (!fs::remove(w[1], error)) {
         throw ScriptError("cannot remove " + w[1]);
@@ -59,12 +54,12 @@ void removeFile(ScenarioRunner&, const ScenarioRunner::Words& w) {
 }
 
 void vanishAfterTest(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
-    expectArguments(w, 1, "vanish \"path\"");
+    ExpectWords(w, 2, "vanish \"path\"");
     runner.Ports().files.VanishAfterTest(w[1]);
 }
 
 void showFile(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
-    expectArguments(w, 1, "show \"path\"");
+    ExpectWords(w, 2, "show \"path\"");
     std::string contents;
     std::string reason;
     if (!ReadWholeFile(w[1], contents, reason)) {
@@ -75,7 +70,7 @@ void showFile(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
 }
 
 void listFiles(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
-    expectArguments(w, 1, "files \"folder\"");
+    ExpectWords(w, 2, "files \"folder\"");
     std::error_code error;
     fs::directory_iterator folder(w[1], error);
     if (error) {
@@ -99,7 +94,7 @@ void listFiles(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
 // A lossless file also shows its top-left pixel; a JPG's pixels depend on
 // the codec's build, so a transcript does not hold them.
 void showImage(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
-    expectArguments(w, 1, "image \"path\"");
+    ExpectWords(w, 2, "image \"path\"");
     const LoadedPicture loaded = runner.Ports().loader.LoadPicture(w[1]);
     if (loaded.ok() && !EndsWith(UpperCase(w[1]), ".JPG")) {
         char pixel[16];
@@ -116,10 +111,8 @@ void progress(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
         dialogs.showProgress = true;
         return;
     }
-    const bool count = w.size() == 3 && !w[2].empty() && w[2].size() < 9 &&
-                       w[2].find_first_not_of("0123456789") == std::string::npos;
-    if (count && w[1] == "cancel" && std::stoi(w[2]) > 0) {
-        dialogs.cancelAt = std::stoi(w[2]);
+    if (w.size() == 3 && w[1] == "cancel" && WholeNumber(w[2]) > 0) {
+        dialogs.cancelAt = WholeNumber(w[2]);
         return;
     }
     throw ScriptError("usage: progress show | progress cancel N");

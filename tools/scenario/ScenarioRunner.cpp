@@ -14,12 +14,6 @@
 namespace sw::scripted {
 namespace {
 
-void expectWords(const ScenarioRunner::Words& words, std::size_t count, const char* usage) {
-    if (words.size() != count) {
-        throw ScriptError(std::string("usage: ") + usage);
-    }
-}
-
 void raiseEvent(ScenarioRunner& runner, const ScenarioRunner::Words& w) {
     if (w.size() < 2) {
         throw ScriptError("usage: event NAME ARGS...");
@@ -60,7 +54,7 @@ ScenarioRunner::ScenarioRunner(std::ostream& transcript, PictureLoader* realLoad
 
 void ScenarioRunner::addBuiltInCommands() {
     AddCommand("store", [](ScenarioRunner& r, const Words& w) {
-        expectWords(w, 3, "store KEY \"value\"");
+        ExpectWords(w, 3, "store KEY \"value\"");
         r.Ports().settings.Preset(w[1], w[2]);
     });
     AddCommand("answer", [](ScenarioRunner& r, const Words& w) {
@@ -70,7 +64,7 @@ void ScenarioRunner::addBuiltInCommands() {
         r.Ports().answers.Add(w[1], Words(w.begin() + 2, w.end()));
     });
     AddCommand("picture", [](ScenarioRunner& r, const Words& w) {
-        expectWords(w, 4, "picture \"name\" WIDTH HEIGHT");
+        ExpectWords(w, 4, "picture \"name\" WIDTH HEIGHT");
         const int width = WholeNumber(w[2]);
         const int height = WholeNumber(w[3]);
         if (width < 1 || height < 1) {
@@ -79,31 +73,31 @@ void ScenarioRunner::addBuiltInCommands() {
         r.Ports().loader.Declare(w[1], Picture::Filled(width, height, 0x00C0C0C0));
     });
     AddCommand("forget", [](ScenarioRunner& r, const Words& w) {
-        expectWords(w, 2, "forget \"name\"");
+        ExpectWords(w, 2, "forget \"name\"");
         r.Ports().loader.Forget(w[1]);
     });
     AddCommand("fail", [](ScenarioRunner& r, const Words& w) {
-        expectWords(w, 3, "fail stroke N");
+        ExpectWords(w, 3, "fail stroke N");
         if (w[1] != "stroke") {
             throw ScriptError("only a stroke can be made to fail");
         }
         r.Ports().picActual.FailStroke(WholeNumber(w[2]));
     });
     AddCommand("apppath", [](ScenarioRunner& r, const Words& w) {
-        expectWords(w, 2, "apppath \"folder\"");
+        ExpectWords(w, 2, "apppath \"folder\"");
         r.Ports().ports.app.Path = w[1];
         r.Ports().userFolders.SetPictures(w[1], false);
     });
     AddCommand("pictures", [](ScenarioRunner& r, const Words& w) {
-        expectWords(w, 2, "pictures \"folder\"");
+        ExpectWords(w, 2, "pictures \"folder\"");
         r.Ports().userFolders.SetPictures(w[1], true);
     });
     AddCommand("vanished", [](ScenarioRunner& r, const Words& w) {
-        expectWords(w, 2, "vanished \"folder\"");
+        ExpectWords(w, 2, "vanished \"folder\"");
         r.Ports().userFolders.Vanish(w[1]);
     });
     AddCommand("start", [](ScenarioRunner& r, const Words& w) {
-        expectWords(w, 1, "start");
+        ExpectWords(w, 1, "start");
         r.Print("event Form_Load");
         Form_Load(r.CurrentSession());
     });

@@ -66,6 +66,12 @@ std::vector<std::string> SplitScriptLine(const std::string& line) {
     return words;
 }
 
+void ExpectWords(const std::vector<std::string>& words, std::size_t count, const char* usage) {
+    if (words.size() != count) {
+        throw ScriptError(std::string("usage: ") + usage);
+    }
+}
+
 int WholeNumber(const std::string& word) {
     char* end = nullptr;
     errno = 0;

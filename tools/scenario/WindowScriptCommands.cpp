@@ -11,12 +11,6 @@ namespace {
 
 using Words = ScenarioRunner::Words;
 
-void expectCount(const Words& words, std::size_t count, const char* usage) {
-    if (words.size() != count) {
-        throw ScriptError(std::string("usage: ") + usage);
-    }
-}
-
 float twips(const std::string& text) {
     return static_cast<float>(WholeNumber(text));
 }
@@ -49,7 +43,7 @@ std::string barLine(const ScriptedScrollBar& bar) {
 }
 
 void printLayout(ScenarioRunner& r, const Words& w) {
-    expectCount(w, 1, "layout");
+    ExpectWords(w, 1, "layout");
     ScriptedForm& form = r.Ports().form;
     const TwipRect bounds = form.Bounds();
     const ScriptedPictureBox& pic = r.Ports().picActual;
@@ -80,23 +74,23 @@ void wireEvents(ScenarioRunner& runner) {
 void AddWindowCommands(ScenarioRunner& runner) {
     wireEvents(runner);
     runner.AddCommand("screen", [](ScenarioRunner& r, const Words& w) {
-        expectCount(w, 3, "screen WIDTH HEIGHT");
+        ExpectWords(w, 3, "screen WIDTH HEIGHT");
         r.Ports().form.SetScreen(twips(w[1]), twips(w[2]));
     });
     runner.AddCommand("resize", [](ScenarioRunner& r, const Words& w) {
-        expectCount(w, 3, "resize WIDTH HEIGHT");
+        ExpectWords(w, 3, "resize WIDTH HEIGHT");
         r.Ports().form.UserResize(twips(w[1]), twips(w[2]));
     });
     runner.AddCommand("move", [](ScenarioRunner& r, const Words& w) {
-        expectCount(w, 3, "move LEFT TOP");
+        ExpectWords(w, 3, "move LEFT TOP");
         r.Ports().form.UserMove(twips(w[1]), twips(w[2]));
     });
     runner.AddCommand("windowstate", [](ScenarioRunner& r, const Words& w) {
-        expectCount(w, 2, "windowstate 0|1|2");
+        ExpectWords(w, 2, "windowstate 0|1|2");
         r.Ports().form.UserWindowState(WholeNumber(w[1]));
     });
     runner.AddCommand("scroll", [](ScenarioRunner& r, const Words& w) {
-        expectCount(w, 3, "scroll h|v VALUE");
+        ExpectWords(w, 3, "scroll h|v VALUE");
         barNamed(r, w[1]).UserScroll(WholeNumber(w[2]));
     });
     runner.AddCommand("drag", [](ScenarioRunner& r, const Words& w) {
