@@ -251,11 +251,11 @@ void CutRun::cut(const PictureJob& job, const LoadedPicture& loaded, ProgressBar
 void CutRun::cutAll(ProgressBar& progress) {
     const auto policy = options_.jobs > 1 ? std::launch::async : std::launch::deferred;
     const auto load = [](const std::string& path) { return QtPictureLoader().LoadPicture(path); };
-    std::future<LoadedPicture> next;
+    if (jobs_.empty()) {
+        return;
+    }
+    std::future<LoadedPicture> next = std::async(policy, load, jobs_[0].picture);
     for (std::size_t i = 0; i < jobs_.size(); ++i) {
-        if (i == 0) {
-            next = std::async(policy, load, jobs_[0].picture);
-        }
         const LoadedPicture loaded = next.get();
         if (i + 1 < jobs_.size()) {
             next = std::async(policy, load, jobs_[i + 1].picture);

@@ -29,15 +29,18 @@ std::string sideFile(const CutOptions& options, const std::string& given,
     return folder + std::filesystem::path(given).filename().string();
 }
 
-// A file the job would write twice: a page or manifest named like a piece,
-// or like each other, would overwrite what was written before it.
-std::optional<std::string> writtenTwice(const PictureJob& job) {
-    std::set<std::filesystem::path> paths;
+std::filesystem::path normalPath(const std::string& file) {
+    std::error_code error;
+    return std::filesystem::absolute(file, error).lexically_normal();
+}
+
+// A file the job would write twice or over its own picture: a page or
+// manifest named like a piece or like each other, or a piece or page named
+// like the picture (even --force must not lose the picture being cut).
+std::optional<std::string> fileWrittenOver(const PictureJob& job) {
+    std::set<std::filesystem::path> paths{normalPath(job.picture)};
     for (const std::string& file : FilesOf(job)) {
-        std::error_code error;
-        const std::filesystem::path path =
-            std::filesystem::absolute(file, error).lexically_normal();
-        if (!paths.insert(path).second) {
+        if (!paths.insert(normalPath(file)).second) {
             return file;
         }
     }
@@ -74,10 +77,9 @@ std::variant<PictureJob, PlanRefusal> PlanJob(const CutOptions& options, const s
     job.htmlFile = sideFile(options, options.htmlFile, folder);
     job.cssFile = sideFile(options, options.cssFile, folder);
     job.manifestFile = sideFile(options, options.manifestFile, folder);
-    if (const auto twice = writtenTwice(job)) {
-        return PlanRefusal{*twice +
-                           " would be written twice, over a piece or another of "
-                           "--html, --css and --manifest; give each file a name of its own"};
+    if (const auto over = fileWrittenOver(job)) {
+        return PlanRefusal{*over + " would be written over the picture or over another file of "
+                                   "the run; give each file a name of its own"};
     }
     return job;
 }

@@ -214,12 +214,18 @@ group_failures() {
     grep -q "no file was written" err.txt || fail "refusal: $(cat err.txt)"
     [[ ! -e refused ]] || fail "a refused division wrote something"
     # A page or manifest named like a piece, or like each other, would write
-    # over it: refused before anything is written.
+    # over it, and one named like the picture would lose it even with --force:
+    # refused before anything is written.
+    local over="would be written over the picture or over another file of the run"
     expect 1 "$cut" plasma.bmp --grid 2x2 -o clash --html clash/plasma3.bmp
-    grep -q "clash/plasma3.bmp would be written twice" err.txt || fail "page over a piece: $(cat err.txt)"
+    grep -q "clash/plasma3.bmp $over" err.txt || fail "page over a piece: $(cat err.txt)"
     expect 1 "$cut" plasma.bmp --grid 2x2 -o clash --css clash/t.html --manifest ./clash/t.html
-    grep -q "clash/t.html would be written twice" err.txt || fail "page over a manifest: $(cat err.txt)"
+    grep -q "clash/t.html $over" err.txt || fail "page over a manifest: $(cat err.txt)"
     [[ ! -e clash ]] || fail "a run with a file named twice wrote something"
+    cp plasma.bmp keep.bmp
+    expect 1 "$cut" plasma.bmp --grid 2x2 --manifest ./plasma.bmp --force
+    grep -q "./plasma.bmp $over" err.txt || fail "manifest over the picture: $(cat err.txt)"
+    cmp -s plasma.bmp keep.bmp || fail "the picture was written over"
     # A corrupt line file: the window's words.
     printf '"H5"\r\ngarbage\r\n' > bad.ple
     expect 1 "$cut" plasma.bmp --lines bad.ple -o corrupt
