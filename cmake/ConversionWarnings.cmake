@@ -4,8 +4,9 @@
 # implicit conversion between them is where a value is silently cut: a cast
 # says that its range is known, a checked narrowing that it is not.
 #
-# Carried by the core's subsystems (slicewright_core_*) and the command-line
-# cutter (slicewright_cut, slicewright-cut).
+# Carried by the core's subsystems (slicewright_core_*), the command-line
+# cutter (slicewright_cut, slicewright-cut) and the scenario runner with its
+# scripted ports (slicewright_scripted, slicewright-scenario).
 function(slicewright_conversion_warnings)
     foreach(target IN LISTS ARGN)
         target_compile_options(${target} PRIVATE -Wconversion -Wsign-conversion)
