@@ -4,9 +4,12 @@
 # implicit conversion between them is where a value is silently cut: a cast
 # says that its range is known, a checked narrowing that it is not.
 #
-# Carried by the core's subsystems (slicewright_core_*), the command-line
-# cutter (slicewright_cut, slicewright-cut) and the scenario runner with its
-# scripted ports (slicewright_scripted, slicewright-scenario).
+# Carried by every target of our own program code: the core's subsystems
+# (slicewright_core_*), the window layer (slicewright_qt), its picture decoder
+# (slicewright_qtimage), the program (slicewright), the command-line cutter
+# (slicewright_cut, slicewright-cut) and the scenario runner with its scripted
+# ports (slicewright_scripted, slicewright-scenario). Not by the tests, the
+# benchmarks, the fuzz targets and the generated resource libraries.
 function(slicewright_conversion_warnings)
     foreach(target IN LISTS ARGN)
         target_compile_options(${target} PRIVATE -Wconversion -Wsign-conversion)
