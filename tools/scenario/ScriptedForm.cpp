@@ -58,6 +58,7 @@ void ScriptedForm::resizing(const std::function<void()>& change) {
     const int stateBefore = windowState_;
     change();
     if (!sameSize(before, Bounds()) || stateBefore != windowState_) {
+        const Transcript::ChatterScope chatter(transcript_);
         transcript_.Line("raise Form_Resize");
         if (onResize) {
             onResize();
@@ -66,27 +67,27 @@ void ScriptedForm::resizing(const std::function<void()>& change) {
 }
 
 void ScriptedForm::SetLeft(float left) {
-    transcript_.Line("set frmSlicewright.Left=" + FormatSingle(left));
+    transcript_.Chatter("set frmSlicewright.Left=" + FormatSingle(left));
     normal_.Left = left;
 }
 
 void ScriptedForm::SetTop(float top) {
-    transcript_.Line("set frmSlicewright.Top=" + FormatSingle(top));
+    transcript_.Chatter("set frmSlicewright.Top=" + FormatSingle(top));
     normal_.Top = top;
 }
 
 void ScriptedForm::SetWidth(float width) {
-    transcript_.Line("set frmSlicewright.Width=" + FormatSingle(width));
+    transcript_.Chatter("set frmSlicewright.Width=" + FormatSingle(width));
     resizing([this, width] { normal_.Width = width; });
 }
 
 void ScriptedForm::SetHeight(float height) {
-    transcript_.Line("set frmSlicewright.Height=" + FormatSingle(height));
+    transcript_.Chatter("set frmSlicewright.Height=" + FormatSingle(height));
     resizing([this, height] { normal_.Height = height; });
 }
 
 void ScriptedForm::SetWindowState(int state) {
-    transcript_.Line("set frmSlicewright.WindowState=" + std::to_string(state));
+    transcript_.Chatter("set frmSlicewright.WindowState=" + std::to_string(state));
     resizing([this, state] { windowState_ = state; });
 }
 
@@ -110,7 +111,7 @@ void ScriptedForm::UserWindowState(int state) {
 }
 
 void ScriptedForm::Refresh() {
-    transcript_.Line("frmSlicewright.Refresh");
+    transcript_.Chatter("frmSlicewright.Refresh");
 }
 
 void ScriptedForm::SetMousePointer(MousePointer pointer) {

@@ -18,6 +18,8 @@ namespace sw::scripted {
 // pixel. Every write is logged; a write that changes the form's size raises
 // Form_Resize (onResize) before it returns. A maximised form covers the whole
 // screen; sizes written meanwhile are those it takes back when restored.
+// What the logic writes into the form's size and place, and Form_Resize with
+// all it does, is window chatter; what the user does is not.
 class ScriptedForm : public FormWindow {
 public:
     ScriptedForm(Transcript& transcript, ScriptedPictureBox& picActual);

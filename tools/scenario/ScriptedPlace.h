@@ -9,12 +9,18 @@
 
 namespace sw::scripted {
 
+// Whether a control's writes are window chatter: those of the bars and the
+// corner piece are, as only the layout places them.
+enum class PlaceLines { Plain, Chatter };
+
 // The part every scripted control of the form shares: its kind, its name and
 // its place in twips, each write logged as "set NAME.Property=value".
 template <typename Port> class ScriptedPlace : public Port {
 public:
-    ScriptedPlace(Transcript& transcript, ControlKind kind, std::string name, float left, float top)
-        : transcript_(transcript), kind_(kind), name_(std::move(name)), left_(left), top_(top) {}
+    ScriptedPlace(Transcript& transcript, ControlKind kind, std::string name, float left, float top,
+                  PlaceLines lines = PlaceLines::Plain)
+        : transcript_(transcript), kind_(kind), name_(std::move(name)), left_(left), top_(top),
+          lines_(lines) {}
 
     ControlKind Kind() const override { return kind_; }
     std::string Name() const override { return name_; }
@@ -31,7 +37,12 @@ public:
 
 protected:
     void log(const std::string& property, const std::string& value) {
-        transcript_.Line("set " + name_ + "." + property + "=" + value);
+        const std::string line = "set " + name_ + "." + property + "=" + value;
+        if (lines_ == PlaceLines::Chatter) {
+            transcript_.Chatter(line);
+        } else {
+            transcript_.Line(line);
+        }
     }
     Transcript& transcript_;
 
@@ -40,6 +51,7 @@ private:
     std::string name_;
     float left_;
     float top_;
+    PlaceLines lines_;
 };
 
 // A control that scrolling may move and nothing else touches: a label, the

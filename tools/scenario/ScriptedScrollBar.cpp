@@ -6,8 +6,8 @@ namespace sw::scripted {
 
 ScriptedScrollBar::ScriptedScrollBar(Transcript& transcript, ControlKind kind, const char* name,
                                      TwipRect place)
-    : ScriptedPlace(transcript, kind, name, place.Left, place.Top), width_(place.Width),
-      height_(place.Height) {}
+    : ScriptedPlace(transcript, kind, name, place.Left, place.Top, PlaceLines::Chatter),
+      width_(place.Width), height_(place.Height) {}
 
 void ScriptedScrollBar::SetWidth(float width) {
     log("Width", FormatSingle(width));
@@ -45,12 +45,14 @@ void ScriptedScrollBar::moveTo(i32 value) {
 }
 
 void ScriptedScrollBar::SetMin(i32 value) {
+    const Transcript::ChatterScope chatter(transcript_);
     log("Min", std::to_string(value));
     min_ = value;
     moveTo(value_);
 }
 
 void ScriptedScrollBar::SetMax(i32 value) {
+    const Transcript::ChatterScope chatter(transcript_);
     log("Max", std::to_string(value));
     max_ = value;
     moveTo(value_);
@@ -67,6 +69,7 @@ void ScriptedScrollBar::SetLargeChange(i32 value) {
 }
 
 void ScriptedScrollBar::SetValue(i32 value) {
+    const Transcript::ChatterScope chatter(transcript_);
     log("Value", std::to_string(value));
     moveTo(value);
 }

@@ -11,7 +11,9 @@ namespace sw::scripted {
 
 // A scroll bar of the scripted form. It starts hidden, with the range 0 to
 // 32767 and steps of 1, as a fresh bar has them; every write is logged, and a
-// value that changes raises onChange before the write returns.
+// value that changes raises onChange before the write returns. What the
+// logic writes into a bar, and the Change it raises so, is window chatter;
+// what the user does with it is not.
 class ScriptedScrollBar : public ScriptedPlace<ScrollBar> {
 public:
     ScriptedScrollBar(Transcript& transcript, ControlKind kind, const char* name, TwipRect place);

@@ -6,7 +6,15 @@ namespace sw::scripted {
 
 void Transcript::Line(const std::string& text) {
     Check(text);
+    if (chatterDepth_ > 0 && !showChatter_) {
+        return;
+    }
     out_ << text << '\n';
+}
+
+void Transcript::Chatter(const std::string& text) {
+    const ChatterScope chatter(*this);
+    Line(text);
 }
 
 void Transcript::Check(const std::string& text) {

@@ -58,6 +58,14 @@ void printLayout(ScenarioRunner& r, const Words& w) {
             " Visible=" + FlagText(form.Corner().Visible()));
 }
 
+void showChatter(ScenarioRunner& r, const Words& w) {
+    ExpectWords(w, 2, "chatter off|on");
+    if (w[1] != "off" && w[1] != "on") {
+        throw ScriptError("chatter is off or on, not \"" + w[1] + "\"");
+    }
+    r.Ports().transcript.ShowChatter(w[1] == "on");
+}
+
 // What the scripted form and its bars raise goes to the real handlers.
 void wireEvents(ScenarioRunner& runner) {
     Session& session = runner.CurrentSession();
@@ -104,6 +112,7 @@ void AddWindowCommands(ScenarioRunner& runner) {
         barNamed(r, w[1]).UserDrag(values);
     });
     runner.AddCommand("layout", printLayout);
+    runner.AddCommand("chatter", showChatter);
 }
 
 } // namespace sw::scripted

@@ -13,6 +13,9 @@ class ScenarioRunner;
 //   scroll h|v VALUE        the user moves a bar to this value
 //   drag h|v VALUE...       the user drags a bar's thumb through these values
 //   layout                  prints the form's and its controls' geometry
+//   chatter off|on          leaves out (or shows again) what the layout writes when
+//                           the form changes size or place: the form's sizes,
+//                           Form_Resize and all it does, the bars and the corner
 void AddWindowCommands(ScenarioRunner& runner);
 
 } // namespace sw::scripted

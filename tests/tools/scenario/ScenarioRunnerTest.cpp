@@ -1,7 +1,9 @@
 #include "tools/scenario/ScenarioRunner.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <sstream>
+#include <vector>
 
 namespace sw::scripted {
 namespace {
@@ -75,6 +77,101 @@ TEST(ScenarioRunner, RefusesAnAnswerTheBoxDoesNotOffer) {
 TEST(ScenarioRunner, QuotesAndEscapesStringsInTheTranscript) {
     const std::string out = run("store LastPicture \"a \\\"b\\\"\\\\c\"\nstart\n");
     EXPECT_NE(out.find(R"(-> "a \"b\"\\c")"), std::string::npos) << out;
+}
+
+std::vector<std::string> linesOf(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream in(text);
+    for (std::string line; std::getline(in, line);) {
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+bool startsWithAny(const std::string& line, const std::vector<std::string>& prefixes) {
+    return std::any_of(prefixes.begin(), prefixes.end(),
+                       [&line](const std::string& prefix) { return line.rfind(prefix, 0) == 0; });
+}
+
+// What the layout writes when the form changes size: the form's sizes and
+// places, the resize with the bars' changes it raises, the bars and the
+// corner, and the moves those changes make.
+const std::vector<std::string> kFormGeometry = {
+    "set frmSlicewright.Left=", "set frmSlicewright.Top=", "set frmSlicewright.Width=",
+    "set frmSlicewright.Height=", "set frmSlicewright.WindowState="};
+std::vector<std::string> chatterKinds() {
+    std::vector<std::string> kinds = kFormGeometry;
+    kinds.insert(kinds.end(),
+                 {"frmSlicewright.Refresh", "raise Form_Resize", "set hscroll.", "set vscroll.",
+                  "set picResize.", "picResize.Refresh", "raise hscroll_Change",
+                  "raise vscroll_Change", "set picActual.Left=", "set picActual.Top=",
+                  "set lblMousePos.Left=", "set lblMousePos.Top="});
+    return kinds;
+}
+
+// A picture larger than the screen in a window the user then resizes,
+// maximises and scrolls: every kind of chatter, and the user's own doings.
+const std::string kWindowJourney = "screen 15360 11520\n"
+                                   "picture \"/big.bmp\" 1200 1000\n"
+                                   "start\n"
+                                   "answer open \"/big.bmp\"\n"
+                                   "event mnuOPen_Click\n"
+                                   "event picActual_MouseMove 57 103\n"
+                                   "event picActual_Click\n"
+                                   "resize 9000 7000\n"
+                                   "scroll v 300\n"
+                                   "windowstate 2\n"
+                                   "answer open \"/big.bmp\"\n"
+                                   "event mnuOPen_Click\n"
+                                   "fields formWidthNow formHeightNow neededWidth hLines\n";
+
+// Leaving chatter out changes only what is shown: the transcript is the whole
+// one less chatter lines, in the same order, and the logic ends in the same state.
+TEST(ScenarioRunnerChatter, LeavesOutOnlyChatterAndRunsTheLogicTheSame) {
+    const std::vector<std::string> whole = linesOf(run(kWindowJourney));
+    const std::vector<std::string> quiet = linesOf(run("chatter off\n" + kWindowJourney));
+    ASSERT_LT(quiet.size(), whole.size());
+    std::size_t next = 0;
+    for (const std::string& line : whole) {
+        if (next < quiet.size() && line == quiet[next]) {
+            ++next;
+        } else {
+            EXPECT_TRUE(startsWithAny(line, chatterKinds()))
+                << "left out, but no chatter: " << line;
+        }
+    }
+    EXPECT_EQ(next, quiet.size()) << "a line the whole transcript does not have";
+    EXPECT_TRUE(std::equal(whole.end() - 4, whole.end(), quiet.end() - 4)) << "the fields differ";
+}
+
+// What the user does to the window is not chatter, nor what the logic does
+// in answer to a scroll; the rules of opening and drawing stay in view.
+TEST(ScenarioRunnerChatter, KeepsTheUsersDoingsAndTheRulesOutsideTheLayout) {
+    const std::vector<std::string> quiet = linesOf(run("chatter off\n" + kWindowJourney));
+    for (const char* kept :
+         {"user resize 9000 7000", "user scroll vscroll 300", "raise vscroll_Change",
+          "set picActual.Top=420", "user windowstate 2", "picActual picture 1200x1000",
+          "stroke 0,103 -> 18000,103 color=0x000000"}) {
+        EXPECT_NE(std::find(quiet.begin(), quiet.end(), kept), quiet.end()) << kept;
+    }
+    std::vector<std::string> layoutOnly = kFormGeometry;
+    layoutOnly.insert(layoutOnly.end(),
+                      {"raise Form_Resize", "set hscroll.", "set vscroll.", "set picResize."});
+    for (const std::string& line : quiet) {
+        EXPECT_FALSE(startsWithAny(line, layoutOnly)) << line;
+    }
+}
+
+TEST(ScenarioRunnerChatter, ShowsChatterAgainWhenSwitchedOn) {
+    const std::string opened = "picture \"/p.bmp\" 300 100\nstart\nanswer open \"/p.bmp\"\n"
+                               "event mnuOPen_Click\n";
+    const std::string shown = run("chatter off\n" + opened + "chatter on\nresize 9000 7000\n");
+    EXPECT_EQ(shown.find("set frmSlicewright.Width=4890"), std::string::npos) << shown;
+    EXPECT_NE(shown.find("user resize 9000 7000\nraise Form_Resize\nset hscroll.Value=0\n"),
+              std::string::npos)
+        << shown;
+    EXPECT_EQ(refusalOf("chatter\n"), "line 1: usage: chatter off|on");
+    EXPECT_EQ(refusalOf("chatter quiet\n"), "line 1: chatter is off or on, not \"quiet\"");
 }
 
 } // namespace
