@@ -35,8 +35,8 @@ public:
 
 private:
     // The stored layout's size until a picture sizes the box.
-    float width_ = 3135;
-    float height_ = 4455;
+    float width_ = StoredLayout::picActual.Width;
+    float height_ = StoredLayout::picActual.Height;
     bool hasPicture_ = false;
     int strokesUntilFailure_ = 0;
 };
