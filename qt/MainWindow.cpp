@@ -258,9 +258,9 @@ void MainWindow::setupToolbar() {
         connect(button, &QAction::triggered, this, [this, operation, index] {
             RunGuarded(operation, [this, index] { tlbrMain_ButtonClick(session_, index); });
         });
+        button->setEnabled(entry.enabled);
         controls_.RegisterToolbarButton(index, button);
     }
-    controls_.SetToolbarButtonEnabled(9, false);
     tlbrMain_->hide();
     controls_.Register(Item::tlbrMain, tlbrMain_);
     toolbar_ = std::make_unique<QtPlaced<FormControl>>(tlbrMain_, ControlKind::Toolbar, "tlbrMain");
