@@ -2,7 +2,6 @@
 
 #include "qt/PictureImage.h"
 #include "qt/TwipGeometry.h"
-#include "window/StoredLayout.h"
 
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -22,7 +21,8 @@ QColor colorOf(Color color) {
 PictureCanvas::PictureCanvas(QWidget* parent) : QWidget(parent) {
     setMouseTracking(true);
     // The stored layout's size until a picture sizes the box.
-    resize(PixelsOf(StoredLayout::picActual.Width), PixelsOf(StoredLayout::picActual.Height));
+    resize(PixelsOf(StoredLayout::picActual.place.Width),
+           PixelsOf(StoredLayout::picActual.place.Height));
 }
 
 void PictureCanvas::SetPicture(const Picture& picture) {

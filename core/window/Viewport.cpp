@@ -153,7 +153,7 @@ bool standsStill(ControlKind kind) {
 }
 
 bool scrolls(const FormControl& control) {
-    return !standsStill(control.Kind()) && control.Name() != "picResize";
+    return !standsStill(control.Kind()) && control.Name() != StoredLayout::picResize.name;
 }
 
 } // namespace

@@ -14,35 +14,33 @@ bool sameSize(const TwipRect& a, const TwipRect& b) {
 } // namespace
 
 ScriptedForm::ScriptedForm(Transcript& transcript, ScriptedPictureBox& picActual)
-    : transcript_(transcript), picActual_(picActual),
-      vscroll_(transcript, ControlKind::VScrollBar, "vscroll", StoredLayout::vscroll),
-      hscroll_(transcript, ControlKind::HScrollBar, "hscroll", StoredLayout::hscroll),
-      picResize_(transcript, StoredLayout::picResize.Left, StoredLayout::picResize.Top,
-                 StoredLayout::picResize.Width),
-      lblMousePos_(transcript, ControlKind::Label, "lblMousePos", StoredLayout::lblMousePos.Left,
-                   StoredLayout::lblMousePos.Top) {
+    : transcript_(transcript), picActual_(picActual), vscroll_(transcript, StoredLayout::vscroll),
+      hscroll_(transcript, StoredLayout::hscroll), picResize_(transcript, StoredLayout::picResize),
+      lblMousePos_(transcript, StoredLayout::lblMousePos) {
     buildControlList();
 }
 
 // In the stored layout's order: bars, corner, image list, toolbar, dialog,
 // picture, clip control, label, then the menu items.
 void ScriptedForm::buildControlList() {
-    const auto unplaced = [this](ControlKind kind, const char* name) {
-        unplaced_.push_back(std::make_unique<ScriptedControl>(transcript_, kind, name, 0, 0));
+    const auto unplaced = [this](const StoredControl& stored) {
+        unplaced_.push_back(std::make_unique<ScriptedControl>(transcript_, stored));
         return unplaced_.back().get();
     };
+    using L = StoredLayout;
     controls_ = {&vscroll_,
                  &hscroll_,
                  &picResize_,
-                 unplaced(ControlKind::ImageList, "ilstToolbar"),
-                 unplaced(ControlKind::Toolbar, "tlbrMain"),
-                 unplaced(ControlKind::CommonDialog, "dlgPic"),
+                 unplaced(L::ilstToolbar),
+                 unplaced(L::tlbrMain),
+                 unplaced(L::dlgPic),
                  &picActual_,
-                 unplaced(ControlKind::ClipControl, "clipContainer"),
+                 unplaced(L::clipContainer),
                  &lblMousePos_};
     for (int item = static_cast<int>(Item::mnuFile); item <= static_cast<int>(Item::mnuHelp);
          ++item) {
-        controls_.push_back(unplaced(ControlKind::MenuItem, ItemName(static_cast<Item>(item))));
+        controls_.push_back(
+            unplaced({ItemName(static_cast<Item>(item)), ControlKind::MenuItem, {}}));
     }
 }
 
