@@ -23,6 +23,9 @@ public:
 
     // One line of window chatter.
     void Chatter(const std::string& text);
+    // One write of the form's own size, place or state: window chatter that
+    // "chatter form" still shows.
+    void FormChatter(const std::string& text);
     // Every line written while one of these lives is window chatter,
     // whichever port writes it.
     class ChatterScope {
@@ -37,8 +40,9 @@ public:
     private:
         Transcript& transcript_;
     };
-    // Chatter is shown unless a script says otherwise.
-    void ShowChatter(bool show) { showChatter_ = show; }
+    // How much of the chatter is shown; all of it unless a script says otherwise.
+    enum class Shown { None, FormOnly, All };
+    void ShowChatter(Shown shown) { shown_ = shown; }
 
     // The next call of a port whose line begins with `prefix` throws, as a
     // port of the window layer may (out of memory, a broken invariant): for
@@ -49,7 +53,7 @@ private:
     std::ostream& out_;
     std::string failAt_;
     int chatterDepth_ = 0;
-    bool showChatter_ = true;
+    Shown shown_ = Shown::All;
 };
 
 std::string FlagText(bool value);
