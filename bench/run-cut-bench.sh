@@ -24,7 +24,7 @@ for tool in "$convert" "$hyperfine" "$jq"; do
 done
 if [[ ! -f $build/CMakeCache.txt ]]; then
     cmake -S "$source_dir" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release \
-        -DSLICEWRIGHT_BUILD_TESTS=OFF -DSLICEWRIGHT_BUILD_BENCH=OFF > /dev/null
+        -DSLICEWRIGHT_BUILD_TESTS=OFF > /dev/null
 fi
 cmake --build "$build" --target slicewright-cut > /dev/null
 cut=$build/cli/slicewright-cut

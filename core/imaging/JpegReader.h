@@ -10,16 +10,18 @@
 
 namespace sw {
 
-// A JPG file decoded by TurboJPEG straight into a picture's bottom-up rows,
-// with no intermediate image: the file's bytes are read and its header parsed
-// first, so that the caller can check the size before the pixels take memory.
+// A JPG file decoded by libjpeg-turbo straight into a picture's bottom-up
+// rows, with no intermediate image and without the file's bytes in memory:
+// the file is read as the rows are decoded. Its header is parsed first, so
+// that the caller can check the size before the pixels take memory; the
+// peak of an open is the picture and a few rows, whatever the file's size.
 class JpegReader {
 public:
     // Whether the file begins as every JPG file does (a start-of-image marker
     // followed by another marker).
     static bool IsJpeg(const std::string& path);
 
-    // Reads the whole file and parses its header.
+    // Opens the file and parses its header.
     explicit JpegReader(const std::string& path);
     ~JpegReader();
     JpegReader(const JpegReader&) = delete;
@@ -34,7 +36,7 @@ public:
     bool FourColour() const { return fourColour_; }
 
     // Decodes the pixels as stored (an orientation tag is not applied) and
-    // lets go of the file's bytes. Nothing, with the decoder's words in
+    // closes the file. Nothing, with the decoder's words in
     // `error`, when the data cannot be decoded; damage the decoder can pass
     // over (as it does for a stray byte) is no failure.
     std::optional<Picture> Decode(std::string& error);
@@ -42,7 +44,6 @@ public:
 private:
     struct Handle;
     std::unique_ptr<Handle> handle_;
-    std::vector<std::uint8_t> bytes_;
     bool headerRead_ = false;
     int width_ = 0;
     int height_ = 0;

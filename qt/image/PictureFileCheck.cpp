@@ -3,6 +3,7 @@
 #include "imaging/PictureProblems.h"
 
 #include <array>
+#include <cstring>
 #include <fstream>
 
 namespace sw {
@@ -10,25 +11,55 @@ namespace {
 
 // A complete JPG ends its last scan with an end-of-image marker. Inside
 // entropy-coded data a 0xFF byte is always followed by 0x00 or a restart
-// marker, so the marker bytes can be looked for without parsing.
-bool jpgIsCutOff(std::ifstream& file) {
-    bool afterScan = false;
-    bool endSeen = false;
-    unsigned char previous = 0;
-    std::array<char, 65536> chunk{};
-    while (file.read(chunk.data(), chunk.size()) || file.gcount() > 0) {
-        for (std::streamsize i = 0; i < file.gcount(); ++i) {
-            const auto byte = static_cast<unsigned char>(chunk[static_cast<std::size_t>(i)]);
-            if (previous == 0xFF && byte == 0xDA) {
-                afterScan = true;
-                endSeen = false;
-            } else if (previous == 0xFF && byte == 0xD9 && afterScan) {
-                endSeen = true;
+// marker, so the marker bytes can be looked for without parsing. The bytes
+// between 0xFF bytes are passed over by memchr: a large picture's file is
+// read at the speed of the disk.
+class JpgEndWatch {
+public:
+    void Look(const unsigned char* bytes, std::size_t count) {
+        if (count == 0) {
+            return;
+        }
+        if (afterMarkerStart_) {
+            see(bytes[0]);
+        }
+        const unsigned char* end = bytes + count;
+        for (const unsigned char* at = find(bytes, end); at != nullptr; at = find(at + 1, end)) {
+            if (at + 1 < end) {
+                see(at[1]);
             }
-            previous = byte;
+        }
+        afterMarkerStart_ = bytes[count - 1] == 0xFF;
+    }
+    bool CutOff() const { return !endSeen_; }
+
+private:
+    static const unsigned char* find(const unsigned char* from, const unsigned char* end) {
+        return static_cast<const unsigned char*>(
+            std::memchr(from, 0xFF, static_cast<std::size_t>(end - from)));
+    }
+    // The byte after a 0xFF.
+    void see(unsigned char marker) {
+        if (marker == 0xDA) {
+            afterScan_ = true;
+            endSeen_ = false;
+        } else if (marker == 0xD9 && afterScan_) {
+            endSeen_ = true;
         }
     }
-    return !endSeen;
+    bool afterMarkerStart_ = false;
+    bool afterScan_ = false;
+    bool endSeen_ = false;
+};
+
+bool jpgIsCutOff(std::ifstream& file) {
+    JpgEndWatch watch;
+    std::array<char, 65536> chunk{};
+    while (file.read(chunk.data(), chunk.size()) || file.gcount() > 0) {
+        watch.Look(reinterpret_cast<const unsigned char*>(chunk.data()),
+                   static_cast<std::size_t>(file.gcount()));
+    }
+    return watch.CutOff();
 }
 
 // Skips `count` bytes; false when the file ends first.
