@@ -111,7 +111,7 @@ void ScriptedForm::UserWindowState(int state) {
 }
 
 void ScriptedForm::Refresh() {
-    transcript_.Chatter("frmSlicewright.Refresh");
+    transcript_.FormChatter("frmSlicewright.Refresh");
 }
 
 void ScriptedForm::SetMousePointer(MousePointer pointer) {

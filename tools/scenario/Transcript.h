@@ -14,6 +14,11 @@ namespace sw::scripted {
 // it out ("chatter off"), so that its transcript shows what it tests and a
 // change of the layout touches only the scripts about the window. Chatter
 // that is left out is still checked (FailAt), so the logic runs the same.
+//
+// A script about the window's size may want the calls on the form itself
+// alone ("chatter form"): the sizes, places and states the logic gives the
+// form and its refreshes, wherever they happen, without the bars and the
+// corner that each resize lays out again.
 class Transcript {
 public:
     explicit Transcript(std::ostream& out) : out_(out) {}
@@ -23,8 +28,8 @@ public:
 
     // One line of window chatter.
     void Chatter(const std::string& text);
-    // One write of the form's own size, place or state: window chatter that
-    // "chatter form" still shows.
+    // One call on the form itself (its size, place, state or a refresh):
+    // window chatter that "chatter form" still shows.
     void FormChatter(const std::string& text);
     // Every line written while one of these lives is window chatter,
     // whichever port writes it.

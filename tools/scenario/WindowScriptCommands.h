@@ -18,7 +18,7 @@ class ScenarioRunner;
 //                           the form changes size or place: the form's sizes,
 //                           Form_Resize and all it does, the bars and the corner;
 //                           "form" shows the form's own size, place and state
-//                           writes and leaves out the rest
+//                           writes and refreshes and leaves out the rest
 void AddWindowCommands(ScenarioRunner& runner);
 
 } // namespace sw::scripted

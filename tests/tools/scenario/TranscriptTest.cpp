@@ -51,11 +51,13 @@ TEST(Transcript, FormOnlyShowsTheFormsOwnWritesAtAnyDepth) {
         transcript.Chatter("set vscroll.Max=5655");
         transcript.FormChatter("set frmSlicewright.Top=1");
     }
-    transcript.Chatter("frmSlicewright.Refresh");
+    transcript.FormChatter("frmSlicewright.Refresh");
+    transcript.Chatter("picResize.Refresh");
     transcript.Line("plain");
     transcript.ShowChatter(Transcript::Shown::None);
     transcript.FormChatter("set frmSlicewright.Left=0");
-    EXPECT_EQ(out.str(), "set frmSlicewright.Height=16560\nset frmSlicewright.Top=1\nplain\n");
+    EXPECT_EQ(out.str(), "set frmSlicewright.Height=16560\nset frmSlicewright.Top=1\n"
+                         "frmSlicewright.Refresh\nplain\n");
 }
 
 // The port that is made to fail must fail whether its line is shown or not,
