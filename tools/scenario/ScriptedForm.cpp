@@ -65,27 +65,27 @@ void ScriptedForm::resizing(const std::function<void()>& change) {
 }
 
 void ScriptedForm::SetLeft(float left) {
-    transcript_.Chatter("set frmSlicewright.Left=" + FormatSingle(left));
+    transcript_.FormChatter("set frmSlicewright.Left=" + FormatSingle(left));
     normal_.Left = left;
 }
 
 void ScriptedForm::SetTop(float top) {
-    transcript_.Chatter("set frmSlicewright.Top=" + FormatSingle(top));
+    transcript_.FormChatter("set frmSlicewright.Top=" + FormatSingle(top));
     normal_.Top = top;
 }
 
 void ScriptedForm::SetWidth(float width) {
-    transcript_.Chatter("set frmSlicewright.Width=" + FormatSingle(width));
+    transcript_.FormChatter("set frmSlicewright.Width=" + FormatSingle(width));
     resizing([this, width] { normal_.Width = width; });
 }
 
 void ScriptedForm::SetHeight(float height) {
-    transcript_.Chatter("set frmSlicewright.Height=" + FormatSingle(height));
+    transcript_.FormChatter("set frmSlicewright.Height=" + FormatSingle(height));
     resizing([this, height] { normal_.Height = height; });
 }
 
 void ScriptedForm::SetWindowState(int state) {
-    transcript_.Chatter("set frmSlicewright.WindowState=" + std::to_string(state));
+    transcript_.FormChatter("set frmSlicewright.WindowState=" + std::to_string(state));
     resizing([this, state] { windowState_ = state; });
 }
 
@@ -109,7 +109,7 @@ void ScriptedForm::UserWindowState(int state) {
 }
 
 void ScriptedForm::Refresh() {
-    transcript_.Chatter("frmSlicewright.Refresh");
+    transcript_.FormChatter("frmSlicewright.Refresh");
 }
 
 void ScriptedForm::SetMousePointer(MousePointer pointer) {
