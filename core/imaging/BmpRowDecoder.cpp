@@ -30,7 +30,8 @@ void BmpRowDecoder::decodeIndexed(const std::uint8_t* stored, std::uint8_t* bgr)
     const unsigned mask = (1u << bits) - 1;
     for (int x = 0; x < columns_; ++x) {
         const int shift = 8 - bits * (x % perByte + 1);
-        const unsigned index = stored[x / perByte] >> shift & mask;
+        const unsigned byte = stored[x / perByte];
+        const unsigned index = byte >> shift & mask;
         PutBgr(bgr + 3 * x, PaletteColor(header_, index));
     }
 }
