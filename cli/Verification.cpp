@@ -47,12 +47,16 @@ std::string sizeText(int width, int height) {
 // The cover count of every pixel, for the check that the pieces tile the picture.
 class Coverage {
 public:
+    // A picture's sides are never negative.
     Coverage(int width, int height)
-        : width_(width), counts_(static_cast<std::size_t>(width) * height, 0) {}
+        : width_(static_cast<std::size_t>(width)),
+          counts_(width_ * static_cast<std::size_t>(height), 0) {}
+    // The pieces are cut to the picture: every pixel of one lies inside it.
     void Add(const SectionRect& rect) {
         for (int y = rect.Top; y < rect.Top + rect.Height; ++y) {
+            const std::size_t row = static_cast<std::size_t>(y) * width_;
             for (int x = rect.Left; x < rect.Left + rect.Width; ++x) {
-                std::uint8_t& count = counts_[static_cast<std::size_t>(y) * width_ + x];
+                std::uint8_t& count = counts_[row + static_cast<std::size_t>(x)];
                 count = static_cast<std::uint8_t>(std::min(count + 1, 2));
             }
         }
@@ -66,7 +70,7 @@ public:
     }
 
 private:
-    int width_;
+    std::size_t width_;
     std::vector<std::uint8_t> counts_;
 };
 

@@ -111,10 +111,10 @@ void MainWindow::setupClientArea() {
     picActual_->hide();
     lblMousePos_ = new QLabel("Position: ", area_);
     lblMousePos_->hide();
-    mousePos_ =
-        std::make_unique<QtPlaced<FormControl>>(lblMousePos_, ControlKind::Label, "lblMousePos");
+    mousePos_ = std::make_unique<QtPlaced<FormControl>>(lblMousePos_, StoredLayout::lblMousePos);
     setupToolbar();
     setupScrollBars();
+    // The controls the window has, in the stored layout's order.
     form_.Attach(*hscroll_, *vscroll_, *picResize_,
                  {vscroll_.get(), hscroll_.get(), picResize_.get(), toolbar_.get(), picActual_,
                   mousePos_.get()});
@@ -127,14 +127,14 @@ void MainWindow::setupScrollBars() {
     hscrollBar_ = new QScrollBar(Qt::Horizontal, area_);
     cornerWidget_ = new QWidget(area_);
     cornerWidget_->setAutoFillBackground(true);
-    cornerWidget_->resize(PixelsOf(StoredLayout::picResize.Width),
-                          PixelsOf(StoredLayout::picResize.Height));
+    cornerWidget_->resize(PixelsOf(StoredLayout::picResize.place.Width),
+                          PixelsOf(StoredLayout::picResize.place.Height));
     for (QWidget* widget :
          {static_cast<QWidget*>(vscrollBar_), static_cast<QWidget*>(hscrollBar_), cornerWidget_}) {
         widget->hide();
     }
-    vscroll_ = std::make_unique<QtScrollBar>(vscrollBar_, ControlKind::VScrollBar, "vscroll");
-    hscroll_ = std::make_unique<QtScrollBar>(hscrollBar_, ControlKind::HScrollBar, "hscroll");
+    vscroll_ = std::make_unique<QtScrollBar>(vscrollBar_, StoredLayout::vscroll);
+    hscroll_ = std::make_unique<QtScrollBar>(hscrollBar_, StoredLayout::hscroll);
     picResize_ = std::make_unique<QtCornerPiece>(cornerWidget_);
     connectBar(hscrollBar_, hscroll_Change, hscroll_Scroll);
     connectBar(vscrollBar_, vscroll_Change, vscroll_Scroll);
@@ -155,18 +155,18 @@ void MainWindow::placeStoredLayout() {
     using L = StoredLayout;
     form_.SetWidth(L::form.Width);
     form_.SetHeight(L::form.Height);
-    const auto place = [](FormControl& control, const TwipRect& at) {
-        control.SetLeft(at.Left);
-        control.SetTop(at.Top);
+    const auto place = [](FormControl& control, const StoredControl& stored) {
+        control.SetLeft(stored.place.Left);
+        control.SetTop(stored.place.Top);
     };
     place(*picActual_, L::picActual);
     place(*mousePos_, L::lblMousePos);
     place(*vscroll_, L::vscroll);
-    vscroll_->SetWidth(L::vscroll.Width);
-    vscroll_->SetHeight(L::vscroll.Height);
+    vscroll_->SetWidth(L::vscroll.place.Width);
+    vscroll_->SetHeight(L::vscroll.place.Height);
     place(*hscroll_, L::hscroll);
-    hscroll_->SetWidth(L::hscroll.Width);
-    hscroll_->SetHeight(L::hscroll.Height);
+    hscroll_->SetWidth(L::hscroll.place.Width);
+    hscroll_->SetHeight(L::hscroll.place.Height);
     place(*picResize_, L::picResize);
     place(*toolbar_, L::tlbrMain);
     stretchToolbar();
@@ -258,12 +258,12 @@ void MainWindow::setupToolbar() {
         connect(button, &QAction::triggered, this, [this, operation, index] {
             RunGuarded(operation, [this, index] { tlbrMain_ButtonClick(session_, index); });
         });
+        button->setEnabled(entry.enabled);
         controls_.RegisterToolbarButton(index, button);
     }
-    controls_.SetToolbarButtonEnabled(9, false);
     tlbrMain_->hide();
     controls_.Register(Item::tlbrMain, tlbrMain_);
-    toolbar_ = std::make_unique<QtPlaced<FormControl>>(tlbrMain_, ControlKind::Toolbar, "tlbrMain");
+    toolbar_ = std::make_unique<QtPlaced<FormControl>>(tlbrMain_, StoredLayout::tlbrMain);
 }
 
 void MainWindow::stretchToolbar() {

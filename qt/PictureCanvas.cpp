@@ -1,6 +1,7 @@
 #include "qt/PictureCanvas.h"
 
 #include "qt/PictureImage.h"
+#include "qt/TwipGeometry.h"
 
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -20,7 +21,8 @@ QColor colorOf(Color color) {
 PictureCanvas::PictureCanvas(QWidget* parent) : QWidget(parent) {
     setMouseTracking(true);
     // The stored layout's size until a picture sizes the box.
-    resize(209, 297);
+    resize(PixelsOf(StoredLayout::picActual.place.Width),
+           PixelsOf(StoredLayout::picActual.place.Height));
 }
 
 void PictureCanvas::SetPicture(const Picture& picture) {

@@ -4,6 +4,7 @@
 #include "ports/FormControl.h"
 #include "ports/PictureBox.h"
 #include "qt/TwipGeometry.h"
+#include "window/StoredLayout.h"
 
 #include <QImage>
 #include <QWidget>
@@ -30,8 +31,8 @@ public:
     float Top() const override { return place_.Top(); }
     void SetLeft(float left) override { place_.SetLeft(left); }
     void SetTop(float top) override { place_.SetTop(top); }
-    ControlKind Kind() const override { return ControlKind::PictureBox; }
-    std::string Name() const override { return "picActual"; }
+    ControlKind Kind() const override { return StoredLayout::picActual.kind; }
+    std::string Name() const override { return StoredLayout::picActual.name; }
 
     std::function<void(float x, float y)> onMouseMove;
     std::function<void()> onClick;

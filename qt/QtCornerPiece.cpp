@@ -1,11 +1,13 @@
 #include "qt/QtCornerPiece.h"
 
+#include "window/StoredLayout.h"
+
 #include <QWidget>
 
 namespace sw::qt {
 
 QtCornerPiece::QtCornerPiece(QWidget* widget)
-    : QtPlaced(widget, ControlKind::PictureBox, "picResize"), widget_(widget) {}
+    : QtPlaced(widget, StoredLayout::picResize), widget_(widget) {}
 
 void QtCornerPiece::SetVisible(bool visible) {
     widget_->setVisible(visible);

@@ -2,6 +2,7 @@
 
 #include "common/Types.h"
 #include "qt/TwipGeometry.h"
+#include "window/StoredLayout.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -14,8 +15,8 @@
 namespace sw::qt {
 namespace {
 
-constexpr float kFrameWidth = 2 * 60;
-constexpr float kFrameHeight = 630 + 60;
+constexpr float kFrameWidth = StoredLayout::frameWidth;
+constexpr float kFrameHeight = StoredLayout::frameHeight;
 
 // How long a change of state may take the window manager.
 constexpr qint64 kStateChangeMillis = 1000;

@@ -10,8 +10,8 @@ namespace sw::qt {
 // its pointer and its closing.
 //
 // The form's outer size is its client area (the central widget, below the
-// menu bar) plus the frame, caption and menu bar of the stored layout: 60
-// twips of frame on either side, 630 above the client area and 60 below it.
+// menu bar) plus the frame, caption and menu bar of the stored layout
+// (StoredLayout::frameWidth and frameHeight).
 // The window manager's own frame is not counted: it is unknown until the
 // window is mapped, missing on some platforms and of any size, while the
 // margins noted at start and the viewport's allowances expect these. Left

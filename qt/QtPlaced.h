@@ -2,18 +2,18 @@
 
 #include "ports/FormControl.h"
 #include "qt/TwipGeometry.h"
+#include "window/StoredControl.h"
 
 #include <string>
-#include <utility>
 
 namespace sw::qt {
 
-// A control of the main form over its widget: its kind, its name and its
-// place in twips.
+// A control of the main form over its widget: its kind and name (those of
+// the stored layout) and its place in twips.
 template <typename Port> class QtPlaced : public Port {
 public:
-    QtPlaced(QWidget* widget, ControlKind kind, std::string name)
-        : geometry_(widget), kind_(kind), name_(std::move(name)) {}
+    QtPlaced(QWidget* widget, const StoredControl& stored)
+        : geometry_(widget), kind_(stored.kind), name_(stored.name) {}
 
     ControlKind Kind() const override { return kind_; }
     std::string Name() const override { return name_; }

@@ -5,8 +5,8 @@
 
 namespace sw::qt {
 
-QtScrollBar::QtScrollBar(QScrollBar* bar, ControlKind kind, std::string name)
-    : QtPlaced(bar, kind, std::move(name)), bar_(bar) {
+QtScrollBar::QtScrollBar(QScrollBar* bar, const StoredControl& stored)
+    : QtPlaced(bar, stored), bar_(bar) {
     applyRange();
     bar_->setSingleStep(1);
     bar_->setPageStep(1);

@@ -13,7 +13,7 @@ namespace sw::qt {
 // Max lies below Min; Max reads back as the logic wrote it.
 class QtScrollBar : public QtPlaced<ScrollBar> {
 public:
-    QtScrollBar(QScrollBar* bar, ControlKind kind, std::string name);
+    QtScrollBar(QScrollBar* bar, const StoredControl& stored);
 
     float Width() const override { return geometry_.Width(); }
     float Height() const override { return geometry_.Height(); }

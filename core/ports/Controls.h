@@ -54,4 +54,7 @@ public:
     virtual void SetToolbarButtonEnabled(int index, bool enabled) = 0;
 };
 
+// The index of Undo on tlbrMain, offered and withdrawn together with mnuUndo.
+inline constexpr int kUndoButton = 9;
+
 } // namespace sw

@@ -1,5 +1,6 @@
 #include "session/SectionLines.h"
 
+#include "ports/Controls.h"
 #include "session/LineLimit.h"
 #include "session/LineSet.h"
 #include "session/PictureReload.h"
@@ -30,7 +31,7 @@ void takeLastLine(SessionState& s, Direction direction) {
 void SetUndoOffered(Session& session, bool offered) {
     session.state.undoOffered = offered;
     session.ports.controls.SetEnabled(Item::mnuUndo, offered);
-    session.ports.controls.SetToolbarButtonEnabled(9, offered);
+    session.ports.controls.SetToolbarButtonEnabled(kUndoButton, offered);
 }
 
 void AppendLineOrder(Session& session, const std::string& letter) {

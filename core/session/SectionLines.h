@@ -19,7 +19,7 @@ void RedrawLines(Session& session);
 // The one way into the undo log: "H" or "V".
 void AppendLineOrder(Session& session, const std::string& letter);
 
-// Shows Undo as offered or withdrawn, on the menu and toolbar button 9 together.
+// Shows Undo as offered or withdrawn, on the menu and its toolbar button together.
 void SetUndoOffered(Session& session, bool offered);
 
 } // namespace sw

@@ -1,5 +1,6 @@
 #include "window/Toolbar.h"
 
+#include "ports/Controls.h"
 #include "window/CommandHandlers.h"
 
 #include <iterator>
@@ -8,15 +9,15 @@ namespace sw {
 namespace {
 
 const ToolbarEntry kEntries[] = {
-    {1, "Open File", 1, mnuOPen_Click},
-    {2, "Create Sections", 5, mnuCreate_Click},
-    {3, "", 0, nullptr},
-    {4, "Draw Horizontal Lines", 4, mnuHorizontalLine_Click},
-    {5, "Draw Vertical Lines", 7, mnuVerticalLine_Click},
-    {6, "Divide Horizontally Equal", 8, mnuDivideH_Click},
-    {7, "Divide Vertically Equal", 9, mnuDivideV_Click},
-    {8, "Clear Lines", 6, mnuClear_Click},
-    {9, "Undo", 2, mnuUndo_Click},
+    {1, "Open File", 1, mnuOPen_Click, true},
+    {2, "Create Sections", 5, mnuCreate_Click, true},
+    {3, "", 0, nullptr, true},
+    {4, "Draw Horizontal Lines", 4, mnuHorizontalLine_Click, true},
+    {5, "Draw Vertical Lines", 7, mnuVerticalLine_Click, true},
+    {6, "Divide Horizontally Equal", 8, mnuDivideH_Click, true},
+    {7, "Divide Vertically Equal", 9, mnuDivideV_Click, true},
+    {8, "Clear Lines", 6, mnuClear_Click, true},
+    {kUndoButton, "Undo", 2, mnuUndo_Click, false},
 };
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "common/Numbers.h"
 #include "session/Session.h"
+#include "window/StoredLayout.h"
 
 namespace sw {
 namespace {
@@ -17,7 +18,7 @@ constexpr float kVerticalBarAllowance = 1260;
 // What frame, caption and menu bar take of the window's height, and how far
 // the vertical bar and the corner (and, a little less, the horizontal bar)
 // stand in from the window's right edge.
-constexpr float kFrameHeight = 690;
+constexpr float kFrameHeight = StoredLayout::frameHeight;
 constexpr float kRightInset = 110;
 constexpr float kHScrollRightInset = 100;
 // One step of a bar, for an arrow and for the trough alike.
@@ -152,7 +153,7 @@ bool standsStill(ControlKind kind) {
 }
 
 bool scrolls(const FormControl& control) {
-    return !standsStill(control.Kind()) && control.Name() != "picResize";
+    return !standsStill(control.Kind()) && control.Name() != StoredLayout::picResize.name;
 }
 
 } // namespace

@@ -50,6 +50,20 @@ private slots:
         QCOMPARE(window.windowTitle(), QString("Slicewright"));
     }
 
+    // The margins noted at start come from the picture box's stored size and
+    // the frame around the client area: the window must give those of the
+    // stored layout, as the scripted form does, or every fitted window is off.
+    void theWindowNotesTheStoredLayoutsMarginsAndToolbar() {
+        test::PlainPictureLoader loader;
+        qt::MainWindow window(loader, "/opt/slicewright");
+        const SessionState& state = window.CurrentSession().state;
+        QCOMPARE(state.rightMargin, i16{270});
+        QCOMPARE(state.bottomMargin, i16{840});
+        QCOMPARE(state.minFormWidth, i16{3525});
+        QVERIFY(!test::FindAction(window, "Undo")->isEnabled());
+        QVERIFY(test::FindAction(window, "Open File")->isEnabled());
+    }
+
     void exitWritesTheSixSettingsToTheUsersConfigFile() {
         QVERIFY(QDir(home_->path()).mkpath("Pictures"));
         test::PlainPictureLoader loader;

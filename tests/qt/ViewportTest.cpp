@@ -6,6 +6,7 @@
 #include "tests/qt/PlainPictureLoader.h"
 #include "tests/qt/SettingsFolder.h"
 #include "window/PictureOpening.h"
+#include "window/StoredLayout.h"
 
 #include <QApplication>
 #include <QMenuBar>
@@ -190,7 +191,7 @@ private slots:
     // sliding the picture the wrong way; the bar must stay at Min instead.
     void aBarWithMaxBelowMinStaysAtMin() {
         QScrollBar widget(Qt::Vertical);
-        qt::QtScrollBar bar(&widget, ControlKind::VScrollBar, "vscroll");
+        qt::QtScrollBar bar(&widget, StoredLayout::vscroll);
         bar.SetMin(0);
         bar.SetMax(-45);
         bar.SetValue(-30);

@@ -1,6 +1,7 @@
 #include "tools/scenario/ScriptedControls.h"
 
 #include "common/QuotedText.h"
+#include "window/MenuTree.h"
 
 namespace sw::scripted {
 
@@ -9,9 +10,12 @@ std::string FlagText(bool value) {
 }
 
 ScriptedControls::ScriptedControls(Transcript& transcript) : transcript_(transcript) {
-    // The check marks of the stored layout.
-    checked_[Item::mnuHorizontalLine] = true;
-    checked_[Item::mnuBlack] = true;
+    // The check marks of the stored layout, as the menu tree has them.
+    for (const MenuEntry& entry : MenuTree()) {
+        if (entry.item && entry.checked) {
+            checked_[*entry.item] = true;
+        }
+    }
 }
 
 void ScriptedControls::log(const std::string& property, const std::string& value) {

@@ -5,14 +5,12 @@
 
 namespace sw::scripted {
 
-// picResize of the scripted form: 255 twips square, hidden at start. All it
+// picResize of the scripted form: a square of the stored side, hidden at start. All it
 // writes is window chatter.
 class ScriptedCornerPiece : public ScriptedPlace<CornerPiece> {
 public:
-    ScriptedCornerPiece(Transcript& transcript, float left, float top, float size)
-        : ScriptedPlace(transcript, ControlKind::PictureBox, "picResize", left, top,
-                        PlaceLines::Chatter),
-          size_(size) {}
+    ScriptedCornerPiece(Transcript& transcript, const StoredControl& stored)
+        : ScriptedPlace(transcript, stored, PlaceLines::Chatter), size_(stored.place.Height) {}
 
     float Height() const override { return size_; }
     bool Visible() const { return visible_; }

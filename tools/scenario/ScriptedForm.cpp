@@ -14,35 +14,33 @@ bool sameSize(const TwipRect& a, const TwipRect& b) {
 } // namespace
 
 ScriptedForm::ScriptedForm(Transcript& transcript, ScriptedPictureBox& picActual)
-    : transcript_(transcript), picActual_(picActual),
-      vscroll_(transcript, ControlKind::VScrollBar, "vscroll", StoredLayout::vscroll),
-      hscroll_(transcript, ControlKind::HScrollBar, "hscroll", StoredLayout::hscroll),
-      picResize_(transcript, StoredLayout::picResize.Left, StoredLayout::picResize.Top,
-                 StoredLayout::picResize.Width),
-      lblMousePos_(transcript, ControlKind::Label, "lblMousePos", StoredLayout::lblMousePos.Left,
-                   StoredLayout::lblMousePos.Top) {
+    : transcript_(transcript), picActual_(picActual), vscroll_(transcript, StoredLayout::vscroll),
+      hscroll_(transcript, StoredLayout::hscroll), picResize_(transcript, StoredLayout::picResize),
+      lblMousePos_(transcript, StoredLayout::lblMousePos) {
     buildControlList();
 }
 
 // In the stored layout's order: bars, corner, image list, toolbar, dialog,
 // picture, clip control, label, then the menu items.
 void ScriptedForm::buildControlList() {
-    const auto unplaced = [this](ControlKind kind, const char* name) {
-        unplaced_.push_back(std::make_unique<ScriptedControl>(transcript_, kind, name, 0, 0));
+    const auto unplaced = [this](const StoredControl& stored) {
+        unplaced_.push_back(std::make_unique<ScriptedControl>(transcript_, stored));
         return unplaced_.back().get();
     };
+    using L = StoredLayout;
     controls_ = {&vscroll_,
                  &hscroll_,
                  &picResize_,
-                 unplaced(ControlKind::ImageList, "ilstToolbar"),
-                 unplaced(ControlKind::Toolbar, "tlbrMain"),
-                 unplaced(ControlKind::CommonDialog, "dlgPic"),
+                 unplaced(L::ilstToolbar),
+                 unplaced(L::tlbrMain),
+                 unplaced(L::dlgPic),
                  &picActual_,
-                 unplaced(ControlKind::ClipControl, "clipContainer"),
+                 unplaced(L::clipContainer),
                  &lblMousePos_};
     for (int item = static_cast<int>(Item::mnuFile); item <= static_cast<int>(Item::mnuHelp);
          ++item) {
-        controls_.push_back(unplaced(ControlKind::MenuItem, ItemName(static_cast<Item>(item))));
+        controls_.push_back(
+            unplaced({ItemName(static_cast<Item>(item)), ControlKind::MenuItem, {}}));
     }
 }
 
@@ -67,27 +65,27 @@ void ScriptedForm::resizing(const std::function<void()>& change) {
 }
 
 void ScriptedForm::SetLeft(float left) {
-    transcript_.Chatter("set frmSlicewright.Left=" + FormatSingle(left));
+    transcript_.FormChatter("set frmSlicewright.Left=" + FormatSingle(left));
     normal_.Left = left;
 }
 
 void ScriptedForm::SetTop(float top) {
-    transcript_.Chatter("set frmSlicewright.Top=" + FormatSingle(top));
+    transcript_.FormChatter("set frmSlicewright.Top=" + FormatSingle(top));
     normal_.Top = top;
 }
 
 void ScriptedForm::SetWidth(float width) {
-    transcript_.Chatter("set frmSlicewright.Width=" + FormatSingle(width));
+    transcript_.FormChatter("set frmSlicewright.Width=" + FormatSingle(width));
     resizing([this, width] { normal_.Width = width; });
 }
 
 void ScriptedForm::SetHeight(float height) {
-    transcript_.Chatter("set frmSlicewright.Height=" + FormatSingle(height));
+    transcript_.FormChatter("set frmSlicewright.Height=" + FormatSingle(height));
     resizing([this, height] { normal_.Height = height; });
 }
 
 void ScriptedForm::SetWindowState(int state) {
-    transcript_.Chatter("set frmSlicewright.WindowState=" + std::to_string(state));
+    transcript_.FormChatter("set frmSlicewright.WindowState=" + std::to_string(state));
     resizing([this, state] { windowState_ = state; });
 }
 
@@ -111,7 +109,7 @@ void ScriptedForm::UserWindowState(int state) {
 }
 
 void ScriptedForm::Refresh() {
-    transcript_.Chatter("frmSlicewright.Refresh");
+    transcript_.FormChatter("frmSlicewright.Refresh");
 }
 
 void ScriptedForm::SetMousePointer(MousePointer pointer) {

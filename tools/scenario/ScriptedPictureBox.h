@@ -12,8 +12,7 @@ namespace sw::scripted {
 class ScriptedPictureBox : public PictureBox, public ScriptedControl {
 public:
     explicit ScriptedPictureBox(Transcript& transcript)
-        : ScriptedControl(transcript, ControlKind::PictureBox, "picActual",
-                          StoredLayout::picActual.Left, StoredLayout::picActual.Top) {}
+        : ScriptedControl(transcript, StoredLayout::picActual) {}
 
     void SetPicture(const Picture& picture) override;
     bool Line(int x1, int y1, int x2, int y2, Color color) override;
@@ -35,8 +34,8 @@ public:
 
 private:
     // The stored layout's size until a picture sizes the box.
-    float width_ = 3135;
-    float height_ = 4455;
+    float width_ = StoredLayout::picActual.place.Width;
+    float height_ = StoredLayout::picActual.place.Height;
     bool hasPicture_ = false;
     int strokesUntilFailure_ = 0;
 };

@@ -3,6 +3,7 @@
 #include "common/Numbers.h"
 #include "ports/FormControl.h"
 #include "tools/scenario/Transcript.h"
+#include "window/StoredControl.h"
 
 #include <string>
 #include <utility>
@@ -21,6 +22,11 @@ public:
                   PlaceLines lines = PlaceLines::Plain)
         : transcript_(transcript), kind_(kind), name_(std::move(name)), left_(left), top_(top),
           lines_(lines) {}
+    // A control of the stored layout, at its stored place.
+    ScriptedPlace(Transcript& transcript, const StoredControl& stored,
+                  PlaceLines lines = PlaceLines::Plain)
+        : ScriptedPlace(transcript, stored.kind, stored.name, stored.place.Left, stored.place.Top,
+                        lines) {}
 
     ControlKind Kind() const override { return kind_; }
     std::string Name() const override { return name_; }

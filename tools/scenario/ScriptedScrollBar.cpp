@@ -4,10 +4,9 @@
 
 namespace sw::scripted {
 
-ScriptedScrollBar::ScriptedScrollBar(Transcript& transcript, ControlKind kind, const char* name,
-                                     TwipRect place)
-    : ScriptedPlace(transcript, kind, name, place.Left, place.Top, PlaceLines::Chatter),
-      width_(place.Width), height_(place.Height) {}
+ScriptedScrollBar::ScriptedScrollBar(Transcript& transcript, const StoredControl& stored)
+    : ScriptedPlace(transcript, stored, PlaceLines::Chatter), width_(stored.place.Width),
+      height_(stored.place.Height) {}
 
 void ScriptedScrollBar::SetWidth(float width) {
     log("Width", FormatSingle(width));

@@ -16,7 +16,7 @@ namespace sw::scripted {
 // what the user does with it is not.
 class ScriptedScrollBar : public ScriptedPlace<ScrollBar> {
 public:
-    ScriptedScrollBar(Transcript& transcript, ControlKind kind, const char* name, TwipRect place);
+    ScriptedScrollBar(Transcript& transcript, const StoredControl& stored);
 
     float Width() const override { return width_; }
     float Height() const override { return height_; }

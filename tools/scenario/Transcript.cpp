@@ -6,10 +6,17 @@ namespace sw::scripted {
 
 void Transcript::Line(const std::string& text) {
     Check(text);
-    if (chatterDepth_ > 0 && !showChatter_) {
+    if (chatterDepth_ > 0 && shown_ != Shown::All) {
         return;
     }
     out_ << text << '\n';
+}
+
+void Transcript::FormChatter(const std::string& text) {
+    Check(text);
+    if (shown_ != Shown::None) {
+        out_ << text << '\n';
+    }
 }
 
 void Transcript::Chatter(const std::string& text) {

@@ -14,6 +14,11 @@ namespace sw::scripted {
 // it out ("chatter off"), so that its transcript shows what it tests and a
 // change of the layout touches only the scripts about the window. Chatter
 // that is left out is still checked (FailAt), so the logic runs the same.
+//
+// A script about the window's size may want the calls on the form itself
+// alone ("chatter form"): the sizes, places and states the logic gives the
+// form and its refreshes, wherever they happen, without the bars and the
+// corner that each resize lays out again.
 class Transcript {
 public:
     explicit Transcript(std::ostream& out) : out_(out) {}
@@ -23,6 +28,9 @@ public:
 
     // One line of window chatter.
     void Chatter(const std::string& text);
+    // One call on the form itself (its size, place, state or a refresh):
+    // window chatter that "chatter form" still shows.
+    void FormChatter(const std::string& text);
     // Every line written while one of these lives is window chatter,
     // whichever port writes it.
     class ChatterScope {
@@ -37,8 +45,9 @@ public:
     private:
         Transcript& transcript_;
     };
-    // Chatter is shown unless a script says otherwise.
-    void ShowChatter(bool show) { showChatter_ = show; }
+    // How much of the chatter is shown; all of it unless a script says otherwise.
+    enum class Shown { None, FormOnly, All };
+    void ShowChatter(Shown shown) { shown_ = shown; }
 
     // The next call of a port whose line begins with `prefix` throws, as a
     // port of the window layer may (out of memory, a broken invariant): for
@@ -49,7 +58,7 @@ private:
     std::ostream& out_;
     std::string failAt_;
     int chatterDepth_ = 0;
-    bool showChatter_ = true;
+    Shown shown_ = Shown::All;
 };
 
 std::string FlagText(bool value);

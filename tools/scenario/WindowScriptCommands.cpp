@@ -4,7 +4,11 @@
 #include "tools/scenario/ScriptTokens.h"
 #include "window/Viewport.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace sw::scripted {
 namespace {
@@ -42,28 +46,63 @@ std::string barLine(const ScriptedScrollBar& bar) {
            " Value=" + std::to_string(bar.Value());
 }
 
-void printLayout(ScenarioRunner& r, const Words& w) {
-    ExpectWords(w, 1, "layout");
+// One line for each of the form and its placed controls, in this order.
+std::vector<std::pair<std::string, std::string>> layoutLines(ScenarioRunner& r) {
     ScriptedForm& form = r.Ports().form;
     const TwipRect bounds = form.Bounds();
     const ScriptedPictureBox& pic = r.Ports().picActual;
-    r.Print("  frmSlicewright " + place(bounds.Left, bounds.Top) + " " +
-            size(bounds.Width, bounds.Height) +
-            " WindowState=" + std::to_string(form.WindowState()));
-    r.Print("  picActual " + place(pic.Left(), pic.Top()) + " " + size(pic.Width(), pic.Height()));
-    r.Print("  lblMousePos " + place(form.MousePos().Left(), form.MousePos().Top()));
-    r.Print(barLine(form.VScroll()));
-    r.Print(barLine(form.HScroll()));
-    r.Print("  picResize " + place(form.Corner().Left(), form.Corner().Top()) +
-            " Visible=" + FlagText(form.Corner().Visible()));
+    return {
+        {"frmSlicewright", "  frmSlicewright " + place(bounds.Left, bounds.Top) + " " +
+                               size(bounds.Width, bounds.Height) +
+                               " WindowState=" + std::to_string(form.WindowState())},
+        {"picActual",
+         "  picActual " + place(pic.Left(), pic.Top()) + " " + size(pic.Width(), pic.Height())},
+        {"lblMousePos", "  lblMousePos " + place(form.MousePos().Left(), form.MousePos().Top())},
+        {"vscroll", barLine(form.VScroll())},
+        {"hscroll", barLine(form.HScroll())},
+        {"picResize", "  picResize " + place(form.Corner().Left(), form.Corner().Top()) +
+                          " Visible=" + FlagText(form.Corner().Visible())}};
+}
+
+std::string layoutNames(const std::vector<std::pair<std::string, std::string>>& lines) {
+    std::string names;
+    for (const auto& line : lines) {
+        names += (names.empty() ? "" : ", ") + line.first;
+    }
+    return names;
+}
+
+// "layout" prints every line; "layout vscroll hscroll" only those, in the
+// order the script names them, so that a scenario shows the places it is about.
+void printLayout(ScenarioRunner& r, const Words& w) {
+    const auto lines = layoutLines(r);
+    if (w.size() == 1) {
+        for (const auto& line : lines) {
+            r.Print(line.second);
+        }
+        return;
+    }
+    for (auto name = w.begin() + 1; name != w.end(); ++name) {
+        const auto line = std::find_if(lines.begin(), lines.end(),
+                                       [&name](const auto& named) { return named.first == *name; });
+        if (line == lines.end()) {
+            throw ScriptError("layout shows " + layoutNames(lines) + "; not \"" + *name + "\"");
+        }
+        r.Print(line->second);
+    }
 }
 
 void showChatter(ScenarioRunner& r, const Words& w) {
-    ExpectWords(w, 2, "chatter off|on");
-    if (w[1] != "off" && w[1] != "on") {
-        throw ScriptError("chatter is off or on, not \"" + w[1] + "\"");
+    ExpectWords(w, 2, "chatter off|form|on");
+    if (w[1] == "off") {
+        r.Ports().transcript.ShowChatter(Transcript::Shown::None);
+    } else if (w[1] == "form") {
+        r.Ports().transcript.ShowChatter(Transcript::Shown::FormOnly);
+    } else if (w[1] == "on") {
+        r.Ports().transcript.ShowChatter(Transcript::Shown::All);
+    } else {
+        throw ScriptError("chatter is off, form or on, not \"" + w[1] + "\"");
     }
-    r.Ports().transcript.ShowChatter(w[1] == "on");
 }
 
 // What the scripted form and its bars raise goes to the real handlers.

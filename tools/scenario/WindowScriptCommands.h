@@ -12,10 +12,13 @@ class ScenarioRunner;
 //   windowstate 0|1|2       the user restores, minimises or maximises it
 //   scroll h|v VALUE        the user moves a bar to this value
 //   drag h|v VALUE...       the user drags a bar's thumb through these values
-//   layout                  prints the form's and its controls' geometry
-//   chatter off|on          leaves out (or shows again) what the layout writes when
+//   layout [NAME...]        prints the form's and its controls' geometry, or
+//                           only that of the ones named
+//   chatter off|form|on     leaves out (or shows again) what the layout writes when
 //                           the form changes size or place: the form's sizes,
-//                           Form_Resize and all it does, the bars and the corner
+//                           Form_Resize and all it does, the bars and the corner;
+//                           "form" shows the form's own size, place and state
+//                           writes and refreshes and leaves out the rest
 void AddWindowCommands(ScenarioRunner& runner);
 
 } // namespace sw::scripted

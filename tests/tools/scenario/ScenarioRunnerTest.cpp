@@ -170,8 +170,59 @@ TEST(ScenarioRunnerChatter, ShowsChatterAgainWhenSwitchedOn) {
     EXPECT_NE(shown.find("user resize 9000 7000\nraise Form_Resize\nset hscroll.Value=0\n"),
               std::string::npos)
         << shown;
-    EXPECT_EQ(refusalOf("chatter\n"), "line 1: usage: chatter off|on");
-    EXPECT_EQ(refusalOf("chatter quiet\n"), "line 1: chatter is off or on, not \"quiet\"");
+    EXPECT_EQ(refusalOf("chatter\n"), "line 1: usage: chatter off|form|on");
+    EXPECT_EQ(refusalOf("chatter quiet\n"), "line 1: chatter is off, form or on, not \"quiet\"");
+}
+
+std::size_t countStartingWith(const std::vector<std::string>& lines,
+                              const std::vector<std::string>& prefixes) {
+    return static_cast<std::size_t>(
+        std::count_if(lines.begin(), lines.end(), [&prefixes](const std::string& line) {
+            return startsWithAny(line, prefixes);
+        }));
+}
+
+// "chatter form" keeps every write of the form's size, place and state and
+// every refresh, the nested ones of the height's cutting included, and no
+// other chatter.
+TEST(ScenarioRunnerChatter, FormShowsEveryCallOnTheFormAndNoOtherChatter) {
+    const std::vector<std::string> whole = linesOf(run(kWindowJourney));
+    const std::vector<std::string> form = linesOf(run("chatter form\n" + kWindowJourney));
+    std::vector<std::string> formCalls = kFormGeometry;
+    formCalls.push_back("frmSlicewright.Refresh");
+    std::size_t next = 0;
+    for (const std::string& line : whole) {
+        if (next < form.size() && line == form[next]) {
+            ++next;
+        } else {
+            EXPECT_TRUE(startsWithAny(line, chatterKinds()) && !startsWithAny(line, formCalls))
+                << "left out, but no chatter or the form's own: " << line;
+        }
+    }
+    EXPECT_EQ(next, form.size()) << "a line the whole transcript does not have";
+    EXPECT_GT(countStartingWith(form, kFormGeometry), 20U) << "the height is cut in steps";
+    EXPECT_EQ(countStartingWith(form, formCalls), countStartingWith(whole, formCalls));
+    EXPECT_EQ(countStartingWith(form, {"raise Form_Resize", "set hscroll.", "set vscroll.",
+                                       "set picResize.", "picResize.Refresh"}),
+              0U);
+}
+
+// "layout NAME..." gives the lines of the whole layout that it names, in the
+// script's order, and refuses a name it does not know.
+TEST(ScenarioRunnerLayout, NamedLinesAreThoseOfTheWholeLayout) {
+    const std::string opened = "picture \"/p.bmp\" 300 100\nstart\nchatter off\n"
+                               "answer open \"/p.bmp\"\nevent mnuOPen_Click\nscroll h 10\n";
+    const std::vector<std::string> whole = linesOf(run(opened + "layout\n"));
+    ASSERT_GE(whole.size(), 6U);
+    const std::vector<std::string> all(whole.end() - 6, whole.end());
+    const std::vector<std::string> named =
+        linesOf(run(opened + "layout picResize frmSlicewright hscroll\n"));
+    const std::vector<std::string> expected = {all[5], all[0], all[4]};
+    EXPECT_TRUE(std::equal(expected.begin(), expected.end(), named.end() - 3));
+    EXPECT_EQ(named.size(), whole.size() - 3);
+    EXPECT_EQ(refusalOf("start\nlayout vscroll picActua\n"),
+              "line 2: layout shows frmSlicewright, picActual, lblMousePos, vscroll, hscroll, "
+              "picResize; not \"picActua\"");
 }
 
 } // namespace
