@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -32,8 +33,13 @@ std::string nameOf(const std::string& path) {
 // name can have: its start is enough to tell whose temporary file this is.
 std::string temporaryName(const std::string& name) {
     constexpr std::size_t kLongestName = 255;
-    const std::string suffix = ".XXXXXX";
-    return "." + name.substr(0, kLongestName - 1 - suffix.size()) + suffix;
+    constexpr std::string_view suffix = ".XXXXXX";
+    const std::string_view start =
+        std::string_view(name).substr(0, kLongestName - 1 - suffix.size());
+    std::string temporary;
+    temporary.reserve(1 + start.size() + suffix.size());
+    temporary.append(".").append(start).append(suffix);
+    return temporary;
 }
 
 // A new file takes the permissions a new file would get (mkstemp makes it

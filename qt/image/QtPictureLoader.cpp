@@ -6,12 +6,9 @@
 #include "imaging/PictureProblems.h"
 #include "qt/image/HeldFile.h"
 #include "qt/image/PictureFileCheck.h"
+#include "qt/image/QtReaderModule.h"
 
-#include <QImage>
-#include <QImageReader>
-#include <cstring>
 #include <optional>
-#include <vector>
 
 namespace sw {
 namespace {
@@ -20,36 +17,6 @@ LoadedPicture failure(std::string reason) {
     LoadedPicture result;
     result.error = std::move(reason);
     return result;
-}
-
-std::optional<std::string> sizeProblem(QSize size) {
-    if (!size.isValid() || size.isEmpty()) {
-        return kNotAPictureProblem;
-    }
-    return PictureSizeProblem(size.width(), size.height());
-}
-
-// Qt refuses to allocate images beyond a global limit; it must admit every
-// picture that passed the size check above, and no more.
-void allowPicturesUpToTheBudget() {
-    constexpr std::int64_t megabytes = kMaxPicturePixels * 4 / (1024 * 1024) + 1;
-    QImageReader::setAllocationLimit(static_cast<int>(megabytes));
-}
-
-// Bottom-up rows of blue, green and red, padded to 4 bytes.
-// The decoded image is converted in place where Qt can, to keep the peak of
-// memory low on large pictures.
-Picture toPicture(QImage bgr) {
-    bgr.convertTo(QImage::Format_BGR888);
-    const int width = bgr.width();
-    const int height = bgr.height();
-    const std::size_t stride = Picture::Stride(width);
-    std::vector<std::uint8_t> bytes(stride * static_cast<std::size_t>(height), 0);
-    for (int y = 0; y < height; ++y) {
-        std::uint8_t* target = bytes.data() + stride * static_cast<std::size_t>(height - 1 - y);
-        std::memcpy(target, bgr.constScanLine(y), 3 * static_cast<std::size_t>(width));
-    }
-    return Picture::FromBottomUpBgr(width, height, std::move(bytes));
 }
 
 // Every BMP goes to the project's own reader, which takes the kinds Qt's
@@ -65,9 +32,9 @@ LoadedPicture loadBmp(const std::string& path) {
     return result;
 }
 
-// A JPG is decoded by TurboJPEG straight into the picture's rows: one copy of
+// A JPG is decoded by libjpeg-turbo straight into the picture's rows: one copy of
 // the pixels instead of Qt's 32-bit image beside the picture. The checks and
-// their words are those of the general road. CMYK pictures, which TurboJPEG
+// their words are those of the general road. CMYK pictures, which the decoder
 // cannot turn into blue, green and red, are left to Qt (nothing here).
 std::optional<LoadedPicture> loadJpeg(const std::string& path) {
     JpegReader reader(path);
@@ -75,7 +42,7 @@ std::optional<LoadedPicture> loadJpeg(const std::string& path) {
         return failure(kNotAPictureProblem);
     }
     if (const std::optional<std::string> problem =
-            sizeProblem(QSize(reader.Width(), reader.Height()))) {
+            PictureSizeProblem(reader.Width(), reader.Height())) {
         return failure(*problem);
     }
     if (const std::optional<std::string> problem = TruncationProblem(path, "jpeg")) {
@@ -91,38 +58,6 @@ std::optional<LoadedPicture> loadJpeg(const std::string& path) {
     }
     LoadedPicture result;
     result.picture = std::move(*picture);
-    return result;
-}
-
-// GIF files, CMYK JPG files and whatever else Qt's readers recognise.
-LoadedPicture loadWithQt(const std::string& path) {
-    allowPicturesUpToTheBudget();
-    QImageReader reader(QString::fromStdString(path));
-    reader.setAutoTransform(false);
-    if (const std::optional<std::string> problem = sizeProblem(reader.size())) {
-        return failure(*problem);
-    }
-    if (const std::optional<std::pair<int, int>> screen = GifScreenSize(path)) {
-        if (const std::optional<std::string> problem =
-                PictureSizeProblem(screen->first, screen->second)) {
-            return failure(*problem);
-        }
-    }
-    if (const std::optional<std::string> problem =
-            TruncationProblem(path, reader.format().toStdString())) {
-        return failure(*problem);
-    }
-    QImage decoded = reader.read();
-    if (decoded.isNull()) {
-        return failure("the file is damaged: its picture cannot be decoded (" +
-                       reader.errorString().toStdString() + ")");
-    }
-    // The last guard: no reader may give more than its header said and the checks let in.
-    if (const std::optional<std::string> problem = sizeProblem(decoded.size())) {
-        return failure(*problem);
-    }
-    LoadedPicture result;
-    result.picture = toPicture(std::move(decoded));
     return result;
 }
 
@@ -142,7 +77,7 @@ LoadedPicture QtPictureLoader::LoadPicture(const std::string& path) {
             return std::move(*loaded);
         }
     }
-    return loadWithQt(source);
+    return LoadWithQtReaders(source);
 }
 
 } // namespace sw

@@ -6,7 +6,7 @@
 namespace sw {
 
 // Decodes BMP, JPG and GIF files (the first frame of an animation): every
-// BMP by the project's own reader and JPG files by TurboJPEG, straight into
+// BMP by the project's own reader and JPG files by libjpeg-turbo, straight into
 // the picture, the rest with Qt's image readers. A file goes by its contents,
 // whatever its name ends in, and is opened once: the checks and the decoder
 // read the same file even if another program removes or replaces it
