@@ -3,6 +3,7 @@
 #include "imaging/Picture.h"
 
 #include <string>
+#include <utility>
 
 namespace sw {
 
@@ -11,6 +12,12 @@ struct LoadedPicture {
     // Empty on success; otherwise why the file could not be read.
     std::string error;
     bool ok() const { return error.empty(); }
+    // A picture that could not be read, and why.
+    static LoadedPicture Failed(std::string reason) {
+        LoadedPicture result;
+        result.error = std::move(reason);
+        return result;
+    }
 };
 
 // Decodes BMP, JPG and GIF files into pictures.

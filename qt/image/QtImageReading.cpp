@@ -14,12 +14,6 @@
 namespace sw {
 namespace {
 
-LoadedPicture failure(std::string reason) {
-    LoadedPicture result;
-    result.error = std::move(reason);
-    return result;
-}
-
 std::optional<std::string> sizeProblem(QSize size) {
     if (!size.isValid() || size.isEmpty()) {
         return kNotAPictureProblem;
@@ -55,26 +49,26 @@ LoadedPicture loadWithQt(const std::string& path) {
     QImageReader reader(QString::fromStdString(path));
     reader.setAutoTransform(false);
     if (const std::optional<std::string> problem = sizeProblem(reader.size())) {
-        return failure(*problem);
+        return LoadedPicture::Failed(*problem);
     }
     if (const std::optional<std::pair<int, int>> screen = GifScreenSize(path)) {
         if (const std::optional<std::string> problem =
                 PictureSizeProblem(screen->first, screen->second)) {
-            return failure(*problem);
+            return LoadedPicture::Failed(*problem);
         }
     }
     if (const std::optional<std::string> problem =
             TruncationProblem(path, reader.format().toStdString())) {
-        return failure(*problem);
+        return LoadedPicture::Failed(*problem);
     }
     QImage decoded = reader.read();
     if (decoded.isNull()) {
-        return failure("the file is damaged: its picture cannot be decoded (" +
-                       reader.errorString().toStdString() + ")");
+        return LoadedPicture::Failed("the file is damaged: its picture cannot be decoded (" +
+                                     reader.errorString().toStdString() + ")");
     }
     // The last guard: no reader may give more than its header said and the checks let in.
     if (const std::optional<std::string> problem = sizeProblem(decoded.size())) {
-        return failure(*problem);
+        return LoadedPicture::Failed(*problem);
     }
     LoadedPicture result;
     result.picture = toPicture(std::move(decoded));

@@ -13,19 +13,13 @@
 namespace sw {
 namespace {
 
-LoadedPicture failure(std::string reason) {
-    LoadedPicture result;
-    result.error = std::move(reason);
-    return result;
-}
-
 // Every BMP goes to the project's own reader, which takes the kinds Qt's
 // reader gets wrong (16-bit and wide bit fields, OS/2 headers) and reads the
 // common 24-bit kind in one go.
 LoadedPicture loadBmp(const std::string& path) {
     BmpRead read = ReadBmpFile(path);
     if (!read.picture) {
-        return failure(read.problem);
+        return LoadedPicture::Failed(read.problem);
     }
     LoadedPicture result;
     result.picture = std::move(*read.picture);
@@ -39,14 +33,14 @@ LoadedPicture loadBmp(const std::string& path) {
 std::optional<LoadedPicture> loadJpeg(const std::string& path) {
     JpegReader reader(path);
     if (!reader.HeaderRead()) {
-        return failure(kNotAPictureProblem);
+        return LoadedPicture::Failed(kNotAPictureProblem);
     }
     if (const std::optional<std::string> problem =
             PictureSizeProblem(reader.Width(), reader.Height())) {
-        return failure(*problem);
+        return LoadedPicture::Failed(*problem);
     }
     if (const std::optional<std::string> problem = TruncationProblem(path, "jpeg")) {
-        return failure(*problem);
+        return LoadedPicture::Failed(*problem);
     }
     if (reader.FourColour()) {
         return std::nullopt;
@@ -54,7 +48,8 @@ std::optional<LoadedPicture> loadJpeg(const std::string& path) {
     std::string error;
     std::optional<Picture> picture = reader.Decode(error);
     if (!picture) {
-        return failure("the file is damaged: its picture cannot be decoded (" + error + ")");
+        return LoadedPicture::Failed("the file is damaged: its picture cannot be decoded (" +
+                                     error + ")");
     }
     LoadedPicture result;
     result.picture = std::move(*picture);
@@ -66,7 +61,7 @@ std::optional<LoadedPicture> loadJpeg(const std::string& path) {
 LoadedPicture QtPictureLoader::LoadPicture(const std::string& path) {
     const HeldFile file(path);
     if (file.Problem()) {
-        return failure(*file.Problem());
+        return LoadedPicture::Failed(*file.Problem());
     }
     const std::string& source = file.Path();
     if (IsBmpFile(source)) {

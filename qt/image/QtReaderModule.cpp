@@ -51,13 +51,12 @@ LoadedPicture LoadWithQtReaders(const std::string& path) {
     static std::once_flag opened;
     static Module module;
     std::call_once(opened, [] { module = openModule(); });
-    LoadedPicture result;
     if (module.load == nullptr) {
-        result.error = "pictures of this kind cannot be read: the program's reader for them is "
-                       "missing (" +
-                       module.problem + ")";
-        return result;
+        return LoadedPicture::Failed(
+            "pictures of this kind cannot be read: the program's reader for them is missing (" +
+            module.problem + ")");
     }
+    LoadedPicture result;
     module.load(path, result);
     return result;
 }
