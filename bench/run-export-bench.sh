@@ -48,6 +48,7 @@ cmake --build "$build" --target export_bench slicewright-scenario slicewright-cu
 build_type=$(sed -n 's/^CMAKE_BUILD_TYPE:STRING=//p' "$build/CMakeCache.txt")
 runner=$build/tools/scenario/slicewright-scenario
 
+load_before=$(cut -d' ' -f1-3 /proc/loadavg)
 work=$(mktemp -d -p "${BENCH_TMPDIR:-${TMPDIR:-/tmp}}")
 trap 'rm -rf "$work"' EXIT
 
@@ -186,7 +187,7 @@ mb() { echo $(($1 / 1024)); }
 
 report=$build/export-bench-report.txt
 {
-    echo "Export benchmark, $(date -u '+%Y-%m-%d %H:%M UTC'), build type ${build_type:-none}, $(nproc) cores, load before $(cut -d' ' -f1-3 /proc/loadavg)"
+    echo "Export benchmark, $(date -u '+%Y-%m-%d %H:%M UTC'), build type ${build_type:-none}, $(nproc) cores, load before $load_before"
     echo "Best of $runs rounds (the large picture: $large_runs); peak memory is the largest of the rounds"
     echo
     echo "Written into $(df --output=fstype "$work" | tail -n 1) at $(df --output=target "$work" | tail -n 1)"
