@@ -76,8 +76,8 @@ measure() {
     "$jq" -s -r --arg format "$format" --argjson ob "$ours_bytes" --argjson tb "$theirs_bytes" '
         [.[0].results[0], .[1].results[0]] as $r |
         ($r[0].mean) as $c | ($r[1].mean) as $m |
-        "\($format): slicewright-cut \($c * 1000 | floor) ms (sd \($r[0].stddev * 1000 | floor), min \($r[0].min * 1000 | floor), max \($r[0].max * 1000 | floor)); " +
-        "ImageMagick \($m * 1000 | floor) ms (sd \($r[1].stddev * 1000 | floor), min \($r[1].min * 1000 | floor), max \($r[1].max * 1000 | floor)); " +
+        "\($format): slicewright-cut \($c * 1000 | floor) ms (sd \((($r[0].stddev // 0) * 1000) | floor), min \($r[0].min * 1000 | floor), max \($r[0].max * 1000 | floor)); " +
+        "ImageMagick \($m * 1000 | floor) ms (sd \((($r[1].stddev // 0) * 1000) | floor), min \($r[1].min * 1000 | floor), max \($r[1].max * 1000 | floor)); " +
         "ratio \(($m / $c) * 100 | floor / 100) (target >= 4: \(if $m / $c >= 4 then "met" else "MISSED" end)); " +
         "bytes written \($ob / 1048576 | floor) MiB against \($tb / 1048576 | floor) MiB"' \
         "$work/cut-$format.json" "$work/magick-$format.json"

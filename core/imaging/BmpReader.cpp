@@ -3,6 +3,7 @@
 #include "imaging/BmpRowDecoder.h"
 #include "imaging/BmpRunLengthDecoder.h"
 #include "imaging/PictureProblems.h"
+#include "imaging/PixelBuffer.h"
 
 #include <utility>
 #include <vector>
@@ -55,7 +56,7 @@ BmpRead ReadBmpPixels(std::istream& file, const BmpHeader& header) {
     const auto width = static_cast<int>(header.Columns());
     const auto height = static_cast<int>(header.Rows());
     const std::size_t stride = Picture::Stride(width);
-    Bytes pixels(stride * static_cast<std::size_t>(height));
+    Bytes pixels = PixelBuffer(stride * static_cast<std::size_t>(height));
     bool complete = false;
     if (header.storage == BmpStorage::RunLength) {
         complete = readRunLength(file, header, pixels, stride);

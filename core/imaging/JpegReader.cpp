@@ -1,5 +1,7 @@
 #include "imaging/JpegReader.h"
 
+#include "imaging/PixelBuffer.h"
+
 #include <array>
 #include <csetjmp>
 #include <cstdio>
@@ -178,7 +180,7 @@ std::optional<Picture> JpegReader::Decode(std::string& error) {
         return std::nullopt;
     }
     const std::size_t stride = Picture::Stride(width_);
-    std::vector<std::uint8_t> pixels(stride * static_cast<std::size_t>(height_));
+    std::vector<std::uint8_t> pixels = PixelBuffer(stride * static_cast<std::size_t>(height_));
     const bool decoded = decodeRows(state, pixels.data(), stride);
     state.closeFile();
     if (!decoded) {
