@@ -30,12 +30,12 @@ done
 # there is only the module of Qt's image readers, and the installed programs
 # load that one, not the build's.
 module=$(cd "$usr" && find lib -type f)
-[ "$module" = lib/slicewright/libslicewright-qtreader.so ] ||
-    fail "lib/ holds $module, not only lib/slicewright/libslicewright-qtreader.so"
+[ "$module" = lib/slicewright/readers/libslicewright-qtreader.so ] ||
+    fail "lib/ holds $module, not only lib/slicewright/readers/libslicewright-qtreader.so"
 data=$(cd "$(dirname "$0")/../data" && pwd)
 LD_DEBUG=files "$usr/bin/slicewright-cut" "$data/small.gif" --grid 2x2 -o "$work/pieces" --quiet \
     2>"$work/loaded" || fail "the installed slicewright-cut could not cut a GIF: $(grep -v '^ *[0-9]*:' "$work/loaded")"
-grep -q "file=$usr/lib/slicewright/libslicewright-qtreader.so .*dynamically loaded" "$work/loaded" ||
+grep -q "file=$usr/lib/slicewright/readers/libslicewright-qtreader.so .*dynamically loaded" "$work/loaded" ||
     fail "the installed slicewright-cut did not load the installed reader module"
 [ "$(ls "$work/pieces" | wc -l)" = 4 ] || fail "the GIF was not cut into 4 pieces"
 [ ! -e "$usr/bin/Help" ] || fail "the help page went beside the program in /usr/bin"
